@@ -1,0 +1,17 @@
+// Conversions between the UTF-16 that crosses the plug-in boundary and the UTF-8 that the host
+// prints and takes on its command line.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tx::host {
+
+// UTF-16 to UTF-8. An unpaired surrogate becomes U+FFFD.
+std::string to_utf8(std::u16string_view text);
+
+// UTF-8 to UTF-16. Each byte that does not start a well-formed sequence (truncated, overlong,
+// a surrogate or above U+10FFFF) becomes one U+FFFD.
+std::u16string to_utf16(std::string_view text);
+
+}  // namespace tx::host

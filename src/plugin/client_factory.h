@@ -1,0 +1,105 @@
+// The client factory: links the plug-in to the host's service registry. When the host visits
+// it, it asks the registry for the service under the localizer key, asks that service for the
+// localizer of this module, and keeps the localizer for the resource loader.
+#pragma once
+
+#include "plugin/localizer.h"
+#include "plugin/service_factory.h"
+
+namespace tx {
+
+template <>
+struct interface_traits<tx_service_registry_interface_0> {
+  static constexpr const char* name = TX_SERVICE_REGISTRY_INTERFACE_0;
+};
+template <>
+struct interface_traits<tx_localizer_service_interface_1> {
+  static constexpr const char* name = TX_LOCALIZER_SERVICE_INTERFACE_1;
+};
+
+class service_registry_visitor_impl : public interface_impl {
+ public:
+  using table_type = tx_service_registry_visitor_interface_0;
+  static constexpr const char* interface_name = TX_SERVICE_REGISTRY_VISITOR_INTERFACE_0;
+  static const table_type* table() noexcept;
+
+  virtual void visit(const char16_t* key, custom_pointer service) = 0;
+
+ protected:
+  ~service_registry_visitor_impl() = default;
+};
+
+class localizer_service_visitor_impl : public interface_impl {
+ public:
+  using table_type = tx_localizer_service_visitor_interface_1;
+  static constexpr const char* interface_name = TX_LOCALIZER_SERVICE_VISITOR_INTERFACE_1;
+  static const table_type* table() noexcept;
+
+  virtual void visit(custom_pointer localizer) = 0;
+
+ protected:
+  ~localizer_service_visitor_impl() = default;
+};
+
+class localizer_client_impl : public interface_impl {
+ public:
+  using table_type = tx_localizer_client_interface_0;
+  static constexpr const char* interface_name = TX_LOCALIZER_CLIENT_INTERFACE_0;
+  static const table_type* table() noexcept;
+
+  virtual const char16_t* module_name() = 0;
+
+ protected:
+  ~localizer_client_impl() = default;
+};
+
+// A client factory registers itself like a service factory; it publishes nothing.
+class custom_client_factory_impl : public basic_service_factory_impl {
+ public:
+  custom_client_factory_impl(const custom_client_factory_impl&) = delete;
+  custom_client_factory_impl& operator=(const custom_client_factory_impl&) = delete;
+
+ protected:
+  explicit custom_client_factory_impl(const char16_t* key = nullptr);
+  ~custom_client_factory_impl();
+};
+
+namespace util {
+
+// The plug-in's client factory: fetches and keeps the host's localizer; forgets it at unload.
+class client_factory final : public custom_client_factory_impl {
+ public:
+  explicit client_factory(const char16_t* module_name);
+  ~client_factory();
+
+  void visit(custom_pointer registry, custom_pointer visitor) override;
+
+ private:
+  class registry_visitor final : public single_interface<service_registry_visitor_impl> {
+   public:
+    explicit registry_visitor(client_factory& owner) : owner_(owner) {}
+    void visit(const char16_t* key, custom_pointer service) override;
+
+   private:
+    client_factory& owner_;
+  };
+  class localizer_visitor final : public single_interface<localizer_service_visitor_impl> {
+   public:
+    void visit(custom_pointer localizer) override { set_localizer(localizer); }
+  };
+  class client final : public single_interface<localizer_client_impl> {
+   public:
+    explicit client(const char16_t* name) : name_(name) {}
+    const char16_t* module_name() override { return name_; }
+
+   private:
+    const char16_t* name_;
+  };
+
+  registry_visitor registry_visitor_{*this};
+  localizer_visitor localizer_visitor_;
+  client client_;
+};
+
+}  // namespace util
+}  // namespace tx

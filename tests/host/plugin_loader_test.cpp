@@ -1,0 +1,202 @@
+#include "tx_host/services/plugin_loader.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tx/services.h"
+#include "tx_host/basic.h"
+
+namespace tx::host {
+namespace {
+
+// The built test libraries: a minimal plug-in, and a library without the bundle entry.
+const std::string kFakePlugin = TX_FAKE_PLUGIN_PATH;
+const std::string kNotAPlugin = TX_NOT_A_PLUGIN_PATH;
+// Any file that is not a library.
+const std::string kTextFile = TX_TEXT_FILE_PATH;
+
+// The fake plug-in's probes. Opening it here as well keeps its state alive across the
+// loader's loads and unloads, so that the probes can be read after an unload.
+class fake_plugin_probe {
+ public:
+  fake_plugin_probe() {
+    std::string error;
+    library_ = shared_library::open(std::filesystem::absolute(kFakePlugin), error);
+    if (library_ == nullptr) throw std::runtime_error(error);
+    referrers_ = get<std::size_t (*)(int)>("tx_fake_plugin_referrers");
+    detaches_ = get<std::size_t (*)(int)>("tx_fake_plugin_detaches");
+    release_services_ = get<void (*)()>("tx_fake_plugin_release_services");
+    unloading_calls_ = get<std::size_t (*)()>("tx_fake_plugin_unloading_calls");
+  }
+
+  // `service`: 0 the utility service, 1 the modal dialog service.
+  std::size_t referrers(int service) const { return referrers_(service); }
+  std::size_t detaches(int service) const { return detaches_(service); }
+  void release_services() const { release_services_(); }
+  std::size_t unloading_calls() const { return unloading_calls_(); }
+
+ private:
+  template <class F>
+  F get(const char* name) const {
+    const auto address = library_->symbol(name);
+    if (address == nullptr) throw std::runtime_error(name);
+    return reinterpret_cast<F>(address);
+  }
+
+  std::unique_ptr<shared_library> library_;
+  std::size_t (*referrers_)(int) = nullptr;
+  std::size_t (*detaches_)(int) = nullptr;
+  void (*release_services_)() = nullptr;
+  std::size_t (*unloading_calls_)() = nullptr;
+};
+
+TEST(PluginLoader, FailsClearlyOnWhatIsNotAPlugin) {
+  struct row {
+    const char* name;
+    std::string path;
+    load_error error;
+    std::string message_part;
+  };
+  const row rows[] = {
+      {"missing file", kFakePlugin + ".missing", load_error::cannot_load, "no such file"},
+      {"empty path", "", load_error::cannot_load, ""},
+      {"folder", std::filesystem::path(kTextFile).parent_path().string(), load_error::cannot_load,
+       "not a regular file"},
+      {"not a library", kTextFile, load_error::cannot_load, ""},
+      {"library without entry", kNotAPlugin, load_error::not_a_plugin,
+       "not a Tarvex plug-in (no tx_bundle_interface_to_custom_pointer export)"},
+  };
+  for (const row& r : rows) {
+    service_registry registry;
+    plugin_loader loader(registry);
+    EXPECT_FALSE(loader.load(r.path)) << r.name;
+    EXPECT_FALSE(loader.loaded()) << r.name;
+    EXPECT_EQ(loader.error(), r.error) << r.name;
+    EXPECT_FALSE(loader.error_message().empty()) << r.name;
+    EXPECT_NE(loader.error_message().find(r.message_part), std::string::npos)
+        << r.name << ": " << loader.error_message();
+    EXPECT_TRUE(loader.sink().factories().empty()) << r.name;
+    EXPECT_TRUE(loader.utilities().empty()) << r.name;
+  }
+}
+
+TEST(PluginLoader, ListsTheFactoriesAndHoldsThePublishedServices) {
+  service_registry registry;
+  plugin_loader loader(registry);
+  ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
+  EXPECT_TRUE(loader.loaded());
+  EXPECT_EQ(loader.error(), load_error::none);
+  EXPECT_TRUE(loader.error_message().empty());
+
+  ASSERT_EQ(loader.sink().factories().size(), 1u);
+  EXPECT_EQ(loader.sink().factories()[0].key, TX_UTILITY_NAMESPACE_KEY);
+  EXPECT_EQ(loader.sink().utility_services().size(), 1u);
+  EXPECT_EQ(loader.sink().dialog_services().size(), 1u);
+  EXPECT_EQ(registry.requested_keys(), std::vector<std::u16string>{TX_LOCALIZER_NAMESPACE_KEY});
+}
+
+TEST(PluginLoader, ListsUtilitiesWithCaptionsInTheHostLanguage) {
+  struct row {
+    std::int32_t language;
+    std::u16string caption;
+  };
+  const row rows[] = {{0, u"Поддельная утилита"}, {50000, u"Fake utility"}};
+  for (const row& r : rows) {
+    tx_host_set_lng(r.language);
+    service_registry registry;
+    plugin_loader loader(registry);
+    ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
+    const std::vector<utility_command> commands = loader.utilities();
+    ASSERT_EQ(commands.size(), 1u) << r.language;
+    EXPECT_EQ(commands[0].id, u"tx_fake_utility") << r.language;
+    EXPECT_EQ(commands[0].caption(), r.caption) << r.language;
+  }
+  tx_host_set_lng(0);
+}
+
+TEST(PluginLoader, LocalizerWhenSwitchedOnAnswersThePluginsCaption) {
+  service_registry registry;
+  registry.set_localizer_enabled(true);
+  plugin_loader loader(registry);
+  ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
+
+  const std::vector<utility_command> commands = loader.utilities();
+  ASSERT_EQ(commands.size(), 1u);
+  EXPECT_EQ(commands[0].caption(), u"localized:10");
+  EXPECT_EQ(registry.localizer_entry().clients(), std::vector<std::u16string>{u"tx_fake_plugin"});
+  EXPECT_EQ(registry.localizer().requests(),
+            (std::vector<localizer_request>{{localizer_request::kind::string, 10}}));
+}
+
+TEST(PluginLoader, UnloadDetachesFromEveryServiceAndCallsTheUnloadingHook) {
+  const fake_plugin_probe probe;
+  const std::size_t utility_detaches = probe.detaches(0);
+  const std::size_t dialog_detaches = probe.detaches(1);
+  const std::size_t unloading_calls = probe.unloading_calls();
+  service_registry registry;
+  plugin_loader loader(registry);
+  ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
+  EXPECT_EQ(probe.referrers(0), 1u);
+  EXPECT_EQ(probe.referrers(1), 1u);
+  EXPECT_EQ(probe.unloading_calls(), unloading_calls);
+
+  loader.unload();
+  EXPECT_FALSE(loader.loaded());
+  EXPECT_EQ(probe.referrers(0), 0u);
+  EXPECT_EQ(probe.referrers(1), 0u);
+  EXPECT_EQ(probe.detaches(0), utility_detaches + 1);
+  EXPECT_EQ(probe.detaches(1), dialog_detaches + 1);
+  EXPECT_EQ(probe.unloading_calls(), unloading_calls + 1);
+  EXPECT_TRUE(loader.sink().factories().empty());
+
+  loader.unload();
+  EXPECT_EQ(probe.unloading_calls(), unloading_calls + 1) << "nothing left to unload";
+}
+
+TEST(PluginLoader, ServicesThePluginDestroyedAreNeitherListedNorDetached) {
+  const fake_plugin_probe probe;
+  service_registry registry;
+  plugin_loader loader(registry);
+  ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
+  const std::size_t utility_detaches = probe.detaches(0);
+
+  probe.release_services();
+  EXPECT_TRUE(loader.utilities().empty());
+  loader.unload();
+  EXPECT_EQ(probe.detaches(0), utility_detaches);
+}
+
+TEST(PluginLoader, LoadingAgainReplacesWhatWasLoaded) {
+  const fake_plugin_probe probe;
+  service_registry registry;
+  plugin_loader loader(registry);
+  ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
+  ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
+  EXPECT_EQ(probe.referrers(0), 1u);
+  EXPECT_EQ(loader.sink().factories().size(), 1u);
+
+  EXPECT_FALSE(loader.load(kNotAPlugin));
+  EXPECT_EQ(probe.referrers(0), 0u) << "a failed load still unloads the previous plug-in";
+}
+
+TEST(PluginLoader, PathIsUtf8) {
+  const std::filesystem::path folder =
+      std::filesystem::temp_directory_path() / std::filesystem::path(u8"tx_host_тест");
+  std::filesystem::create_directories(folder);
+  const std::filesystem::path copy =
+      folder / std::filesystem::path(u8"подделка" +
+                                     std::filesystem::path(kFakePlugin).extension().u8string());
+  std::filesystem::copy_file(kFakePlugin, copy, std::filesystem::copy_options::overwrite_existing);
+  const std::u8string utf8 = copy.u8string();
+  {
+    service_registry registry;
+    plugin_loader loader(registry);
+    EXPECT_TRUE(loader.load(std::string(utf8.begin(), utf8.end()))) << loader.error_message();
+    EXPECT_EQ(loader.utilities().size(), 1u);
+  }
+  std::filesystem::remove_all(folder);
+}
+
+}  // namespace
+}  // namespace tx::host

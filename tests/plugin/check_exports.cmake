@@ -1,0 +1,37 @@
+# Checks the product DLL's binary interface: exactly the two undecorated exports, and imports
+# from the host's libraries and Windows system DLLs only (no mingw runtime DLL).
+# Usage: cmake -DOBJDUMP=... -DDLL=... -P check_exports.cmake
+execute_process(COMMAND ${OBJDUMP} -p ${DLL} OUTPUT_VARIABLE dump RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "objdump failed on ${DLL}")
+endif()
+
+# The name table: the lines after "[Ordinal/Name Pointer] Table" up to the first blank line.
+set(names "")
+string(FIND "${dump}" "[Ordinal/Name Pointer] Table" at)
+if(at GREATER -1)
+  string(SUBSTRING "${dump}" ${at} -1 names)
+  string(FIND "${names}" "\n\n" end)
+  string(SUBSTRING "${names}" 0 ${end} names)
+endif()
+string(REGEX MATCHALL "\\[ *[0-9]+\\] [A-Za-z_][A-Za-z0-9_@]*" export_lines "${names}")
+set(exports)
+foreach(line IN LISTS export_lines)
+  string(REGEX REPLACE "^\\[ *[0-9]+\\] ([A-Za-z0-9_@]+)$" "\\1" name "${line}")
+  list(APPEND exports ${name})
+endforeach()
+list(SORT exports)
+set(expected scary_vcl_bug_crashes_everything_on_unloading tx_bundle_interface_to_custom_pointer)
+if(NOT exports STREQUAL expected)
+  message(FATAL_ERROR "exports are '${exports}', expected '${expected}'")
+endif()
+
+string(REGEX MATCHALL "DLL Name: [^\n]+" import_lines "${dump}")
+foreach(line IN LISTS import_lines)
+  string(REGEX REPLACE "DLL Name: " "" dll "${line}")
+  string(TOLOWER "${dll}" dll)
+  if(NOT dll MATCHES "^(kernel32|user32|gdi32|msvcrt|txk_[a-z0-9_]+)\\.dll$")
+    message(FATAL_ERROR "unexpected import: ${dll}")
+  endif()
+endforeach()
+message(STATUS "exports: ${exports}")

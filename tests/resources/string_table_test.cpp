@@ -1,0 +1,152 @@
+// The plug-in's string table read back through the loader, letter for letter and length for
+// length, in both languages, with the Russian text standing in for a language that has none.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "host_doubles.h"
+#include "resources/loader.h"
+
+namespace tx::resource {
+namespace {
+
+using test::english;
+using test::language_guard;
+using test::russian;
+using test::string_recorder;
+
+struct table_row {
+  std::int32_t id;
+  std::u16string russian;
+  std::u16string english;
+};
+
+// The separators, in their order: 34 characters, the tab and the numero sign among them.
+const std::u16string separators = u" .,!()@#\u2116~`;$%:^&?*-_+='<>\t/\\{}[]|";
+
+const table_row table[] = {
+    {10, u"Переименование элементов проекта", u"Rename Project Elements"},
+    {50, u"Старое имя", u"Old name"},
+    {51, u"Новое имя", u"New name"},
+    {100, u"Отменить", u"Undo"},
+    {101, u"Повторить", u"Redo"},
+    {102, u"Сбросить изменения", u"Drop changes"},
+    {103, u"Развернуть", u"Expand"},
+    {104, u"Свернуть", u"Collapse"},
+    {125, u"Преобразование", u"Transformation"},
+    {126, u"Тип", u"Type"},
+    {127, u"Выполнить", u"Execute"},
+    {128, separators, separators},
+    {129, u"Не заданы новые имена", u"No new names have been set"},
+    {130, u"Не заданы условия переименования", u"Renaming conditions are not specified"},
+    {131, u"Не выбран ни один элемент для переименования", u"No items are selected for renaming"},
+    {132, u"Задано пустое имя для переименования. Проверьте дерево элементов",
+     u"An empty name was specified for renaming. Check the element tree"},
+    {150, u"Найти и заменить", u"Find and Replace"},
+    {151, u"Найти", u"Find"},
+    {152, u"Заменить на", u"Replace"},
+    {153, u"Учитывать регистр ", u"Sensitive to case"},
+    {154, u"Слово целиком ", u"Only whole words"},
+    {155, u"Все", u"All"},
+    {156, u"Первое", u"First"},
+    {157, u"Последнее", u"Last"},
+    {158, u"Все, кроме первого", u"All except first"},
+    {159, u"Все, кроме последнего", u"All except last"},
+    {160, u"Заменять", u"Replace"},
+    {175, u"Изменить регистр", u"Change case"},
+    {176, u"Регистр", u"Case"},
+    {177, u"нижний регистр", u"lover case"},
+    {178, u"ВЕРХНИЙ РЕГИСТР", u"UPPER CASE"},
+    {179, u"Первая буква в верхнем регистре", u"First letter in uppercase"},
+    {180, u"Без изменений", u"Without changes"},
+    {200, u"Добавить", u"Add"},
+    {201, u"Добавить", u"Add"},
+    {202, u"В начало", u"To the begining"},
+    {203, u"В конец", u"In the end"},
+    {225, u"Удалить", u"Remove"},
+    {226, u"Удалить", u"Remove"},
+    {227, u"Все до символов", u"Everything to"},
+    {228, u"Все после символов", u"Everything after"},
+    {229, u"N символов", u"N chars"},
+    {230, u"N = ", u"N = "},
+    {231, u"С начала", u"Begin"},
+    {232, u"С конца", u"End"},
+    {233, u"Расширение", u"Ext"},
+    {234, u"Без изменений", u"Without changes"},
+    {235, u"Регистр", u"Case"},
+    {236, u"Учитывать регистр ", u"Sensitive to case"},
+    {237, u"Слово целиком", u"Whole words"},
+    {238, u"Слово целиком ", u"Whole words"},
+    {10012, u"Выделить все", u"Select All"},
+    {10014, u"Снять выделение", u"Clear Selection"},
+    {10015, u"Обратить выделение", u"Invert Selection"},
+};
+
+// The one text the loader hands over for `reference`, checked to be the only call.
+std::u16string loaded_text(std::int32_t reference) {
+  string_recorder visitor;
+  EXPECT_TRUE(load_string(reference, visitor.pointer())) << reference;
+  EXPECT_EQ(visitor.texts.size(), 1u) << reference;
+  return visitor.texts.empty() ? std::u16string() : visitor.texts.front();
+}
+
+TEST(StringTable, EveryStringInBothLanguages) {
+  struct language {
+    const char* name;
+    std::int32_t offset;
+    std::u16string table_row::*text;
+  };
+  for (const language& lang : {language{"russian", russian, &table_row::russian},
+                               language{"english", english, &table_row::english}}) {
+    SCOPED_TRACE(lang.name);
+    const language_guard guard(lang.offset);
+    for (const table_row& row : table) {
+      SCOPED_TRACE(row.id);
+      const std::u16string text = loaded_text(row.id);
+      EXPECT_EQ(text.size(), (row.*lang.text).size());
+      EXPECT_EQ(text, row.*lang.text);
+    }
+  }
+}
+
+TEST(StringTable, SeparatorsKeepTabAndNumeroSign) {
+  for (const std::int32_t offset : {russian, english}) {
+    const language_guard guard(offset);
+    const std::u16string text = loaded_text(128);
+    ASSERT_EQ(text.size(), 34u);
+    EXPECT_EQ(text[26], u'\t');
+    EXPECT_EQ(text[8], u'\u2116');
+    EXPECT_EQ(text[28], u'\\');
+    EXPECT_EQ(text, separators);
+  }
+}
+
+TEST(StringTable, LanguageWithoutStringsFallsBackToRussian) {
+  const language_guard guard(12345);
+  EXPECT_EQ(loaded_text(177), u"нижний регистр");
+  EXPECT_EQ(loaded_text(10014), u"Снять выделение");
+}
+
+TEST(StringTable, EnglishOfTheDeliberateSpellings) {
+  const language_guard guard(english);
+  EXPECT_EQ(loaded_text(177), u"lover case");
+  EXPECT_EQ(loaded_text(202), u"To the begining");
+  EXPECT_EQ(loaded_text(227), u"Everything to");
+}
+
+TEST(StringTable, NoOtherIdsAreDefined) {
+  const language_guard guard(russian);
+  for (std::int32_t id = 1; id < 300; ++id) {
+    if (std::any_of(std::begin(table), std::end(table),
+                    [id](const table_row& row) { return row.id == id; })) {
+      continue;
+    }
+    string_recorder visitor;
+    EXPECT_FALSE(load_string(id, visitor.pointer())) << id;
+    EXPECT_TRUE(visitor.texts.empty()) << id;
+  }
+}
+
+}  // namespace
+}  // namespace tx::resource
