@@ -43,6 +43,9 @@ module own_module() noexcept;
 // An already loaded module by its Windows file name ("txk_basic.dll"; natively the ".so" of the
 // same base name); an empty module when none is loaded.
 module find_module(std::u16string_view file_name) noexcept;
+// The exported function `name` of an already loaded module found by its Windows file name (as
+// find_module), or null when the module or the export is missing. Nothing is loaded.
+void* find_function(std::u16string_view file_name, const char* name) noexcept;
 
 // ---- Strings and raw data ---------------------------------------------------------------------
 // Resource ids are 16-bit, as in a Windows module; a larger id is never found.

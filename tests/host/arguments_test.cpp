@@ -7,26 +7,31 @@
 namespace tx::host {
 namespace {
 
-TEST(TxhostArguments, AcceptsListLanguageAndHelpInAnyOrder) {
+TEST(TxhostArguments, AcceptsListProjectLanguageAndHelpInAnyOrder) {
   struct row {
     std::vector<std::string> arguments;
     bool help;
     std::string plugin;
+    std::string project;
     std::int32_t language;
   };
   const row rows[] = {
-      {{"--list", "p.dll"}, false, "p.dll", 0},
-      {{"--list", "p.dll", "--lang", "ru"}, false, "p.dll", 0},
-      {{"--list", "p.dll", "--lang", "en"}, false, "p.dll", 50000},
-      {{"--lang", "en", "--list", "/a b/плагин.so"}, false, "/a b/плагин.so", 50000},
-      {{"--help"}, true, "", 0},
-      {{"--list", "p.dll", "--help"}, true, "p.dll", 0},
+      {{"--list", "p.dll"}, false, "p.dll", "", 0},
+      {{"--list", "p.dll", "--lang", "ru"}, false, "p.dll", "", 0},
+      {{"--list", "p.dll", "--lang", "en"}, false, "p.dll", "", 50000},
+      {{"--lang", "en", "--list", "/a b/плагин.so"}, false, "/a b/плагин.so", "", 50000},
+      {{"--help"}, true, "", "", 0},
+      {{"--list", "p.dll", "--help"}, true, "p.dll", "", 0},
+      {{"--project", "город.json"}, false, "", "город.json", 0},
+      {{"--project", "c.json", "--lang", "en"}, false, "", "c.json", 50000},
+      {{"--project", "c.json", "--list", "p.dll"}, false, "p.dll", "c.json", 0},
   };
   for (const row& r : rows) {
     const parsed_arguments parsed = parse_arguments(r.arguments);
     ASSERT_TRUE(parsed.options.has_value()) << parsed.error;
     EXPECT_EQ(parsed.options->help, r.help) << r.arguments[0];
     EXPECT_EQ(parsed.options->plugin, r.plugin) << r.arguments[0];
+    EXPECT_EQ(parsed.options->project, r.project) << r.arguments[0];
     EXPECT_EQ(parsed.options->language_offset, r.language) << r.arguments[0];
     EXPECT_TRUE(parsed.error.empty());
   }
@@ -39,7 +44,11 @@ TEST(TxhostArguments, RejectsWhatMakesNoSense) {
   };
   const row rows[] = {
       {{}, "nothing to do"},
-      {{"--lang", "en"}, "--list PLUGIN is required"},
+      {{"--lang", "en"}, "--list PLUGIN or --project FILE is required"},
+      {{"--project"}, "--project needs a FILE"},
+      {{"--project", ""}, "--project needs a FILE"},
+      {{"--project", "--list", "p.dll"}, "--project needs a FILE"},
+      {{"--project", "a", "--project", "b"}, "--project given twice"},
       {{"--list"}, "--list needs a PLUGIN"},
       {{"--list", ""}, "--list needs a PLUGIN"},
       {{"--list", "--lang", "en"}, "--list needs a PLUGIN"},

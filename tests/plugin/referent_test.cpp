@@ -69,6 +69,8 @@ struct detach_case {
   bool survives;
 };
 
+void PrintTo(const detach_case& c, std::ostream* os) { *os << c.name; }
+
 class DetachRules : public ::testing::TestWithParam<detach_case> {};
 
 TEST_P(DetachRules, AsksInOrderAndReleasesWhenNobodyHolds) {

@@ -11,8 +11,10 @@ namespace tx::host {
 struct txhost_options {
   // --help: print the usage and do nothing else.
   bool help = false;
-  // --list PLUGIN: the plug-in file (UTF-8) whose utilities are listed.
+  // --list PLUGIN: the plug-in file (UTF-8) whose utilities are listed; empty: none.
   std::string plugin;
+  // --project FILE: the project file (UTF-8) opened first and printed; empty: none.
+  std::string project;
   // --lang ru|en: the language offset set before loading (0 Russian, 50000 English).
   std::int32_t language_offset = 0;
 };

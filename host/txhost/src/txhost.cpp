@@ -3,7 +3,11 @@
 #include <string_view>
 
 #include "arguments.h"
+#include "project_tree.h"
+#include "tx/host/txk_prj.h"
 #include "tx_host/basic.h"
+#include "tx_host/msgs.h"
+#include "tx_host/project.h"
 #include "tx_host/services/plugin_loader.h"
 #include "tx_host/services/service_registry.h"
 #include "tx_host/services/utf.h"
@@ -19,8 +23,18 @@ void print(std::FILE* stream, std::string_view text) {
   std::fwrite(text.data(), 1, text.size(), stream);
 }
 
+// Opens the project file and prints its elements; a refused file is told on `err`.
+int open_project(const txhost_options& options, std::FILE* out, std::FILE* err) {
+  if (!tx_host_project_load(options.project.c_str())) {
+    print(err, "txhost: " + std::string(tx_host_project_error()) + "\n");
+    return kCannotLoad;
+  }
+  print(out, describe_project(tx_prj_get_instance()));
+  std::fflush(out);
+  return kDone;
+}
+
 int list_utilities(const txhost_options& options, std::FILE* out, std::FILE* err) {
-  tx_host_set_lng(options.language_offset);
   service_registry registry;  // outlives the loader: the plug-in keeps what it was handed
   plugin_loader loader(registry);
   if (!loader.load(options.plugin)) {
@@ -52,7 +66,16 @@ int run_txhost(std::span<const std::string> arguments, std::FILE* out, std::FILE
     print(out, txhost_usage());
     return kDone;
   }
-  return list_utilities(*parsed.options, out, err);
+  const txhost_options& options = *parsed.options;
+  // Every host library is loaded with txhost, before any plug-in; the record of warnings and
+  // progress starts empty for this run.
+  tx_host_msgs_clear();
+  tx_host_set_lng(options.language_offset);
+  if (!options.project.empty()) {
+    if (const int status = open_project(options, out, err); status != kDone) return status;
+  }
+  if (options.plugin.empty()) return kDone;
+  return list_utilities(options, out, err);
 }
 
 }  // namespace tx::host

@@ -59,9 +59,23 @@ constexpr bool is_high_surrogate(char32_t c) { return c >= 0xD800 && c <= 0xDBFF
 constexpr bool is_low_surrogate(char32_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
 constexpr bool is_surrogate(char32_t c) { return c >= 0xD800 && c <= 0xDFFF; }
 
+// ASCII maps by its 26 letter pairs alone, in every locale the tables come from: the same
+// answers as the tables, without asking them.
+constexpr char16_t ascii_mapped(char16_t unit, direction to) noexcept {
+  constexpr char16_t shift = u'a' - u'A';
+  if (to == direction::lower) {
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + shift) : unit;
+  }
+  return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - shift) : unit;
+}
+
 void map_text(std::span<char16_t> text, direction to) noexcept {
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char32_t unit = text[i];
+    if (unit < 0x80) {
+      text[i] = ascii_mapped(text[i], to);
+      continue;
+    }
     if (is_high_surrogate(unit) && i + 1 < text.size() && is_low_surrogate(text[i + 1])) {
       const char32_t code_point = 0x10000 + ((unit - 0xD800) << 10) + (text[i + 1] - 0xDC00);
       const char32_t result = mapped(code_point, to);

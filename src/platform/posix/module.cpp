@@ -50,4 +50,18 @@ module find_module(std::u16string_view file_name) noexcept {
   }
 }
 
+void* find_function(std::u16string_view file_name, const char* name) noexcept {
+  try {
+    const std::string module_name = native_file_name(file_name);
+    if (module_name.empty() || name == nullptr) return nullptr;
+    void* const handle = dlopen(module_name.c_str(), RTLD_NOW | RTLD_NOLOAD);
+    if (handle == nullptr) return nullptr;
+    void* const function = dlsym(handle, name);
+    dlclose(handle);
+    return function;
+  } catch (...) {
+    return nullptr;
+  }
+}
+
 }  // namespace tx::platform

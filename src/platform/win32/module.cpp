@@ -31,4 +31,16 @@ module find_module(std::u16string_view file_name) noexcept {
   }
 }
 
+void* find_function(std::u16string_view file_name, const char* name) noexcept {
+  try {
+    const std::u16string module_name(file_name);
+    if (module_name.empty() || module_name.find(u'\0') != std::u16string::npos) return nullptr;
+    const HMODULE handle = GetModuleHandleW(win32::wide(module_name.c_str()));
+    if (handle == nullptr || name == nullptr) return nullptr;
+    return reinterpret_cast<void*>(GetProcAddress(handle, name));
+  } catch (...) {
+    return nullptr;
+  }
+}
+
 }  // namespace tx::platform

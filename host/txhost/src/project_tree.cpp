@@ -1,0 +1,107 @@
+#include "project_tree.h"
+
+#include <initializer_list>
+#include <string_view>
+
+#include "tx/host/txk_basic.h"
+#include "tx/host/txk_entity.h"
+#include "tx/host/txk_lr.h"
+#include "tx/host/txk_prj.h"
+#include "tx/host/txk_scn_2d.h"
+#include "tx/host/txk_scn_3d.h"
+#include "tx_host/project/uuid_text.h"
+#include "tx_host/services/utf.h"
+
+namespace tx::host {
+namespace {
+
+// A caption asked for as a plug-in asks: through a string adapter that fills our string. Quoted.
+template <typename Handle>
+std::string caption_of(Handle* handle, void (*get)(Handle*, tx_string_adp*)) {
+  std::u16string caption;
+  tx_string_adp* adapter =
+      tx_string_adp_create(&caption, [](void* target, const char16_t* text, size_t length) {
+        static_cast<std::u16string*>(target)->assign(text, length);
+      });
+  get(handle, adapter);
+  tx_string_adp_destroy(adapter);
+  std::string quoted(1, '"');
+  quoted.append(to_utf8(caption)).push_back('"');
+  return quoted;
+}
+
+std::string uuid_of(tx_entities* holder) {
+  return uuid_to_text(tx_entity_get_uuid(tx_entities_safe_upcast(holder)));
+}
+
+class tree_printer {
+ public:
+  std::string print(tx_prj* project) {
+    line(0, {"project", caption_of(tx_prj_safe_upcast(project), &tx_entity_get_wcaption),
+             tx_options_get_invert_layers() ? "(invert_layers: yes)" : "(invert_layers: no)"});
+    scenes_2d("scenes_2d", "", tx_prj_get_scns_2d_ptr(project));
+    tx_scns_3d* const scenes_3d = tx_prj_get_scns_3d_ptr(project);
+    line(0,
+         {"scenes_3d", caption_of(tx_scns_3d_safe_upcast(scenes_3d), &tx_entities_get_wcaption)});
+    for (uint32_t i = 0; i < tx_scns_3d_get_size(scenes_3d); ++i) {
+      scene(tx_scns_3d_get(scenes_3d, i));
+    }
+    scenes_2d("layouts", "", tx_prj_get_layouts_data_ptr(project));
+    for (int32_t i = 0; i < tx_prj_get_plugin_scns_2d_count(project); ++i) {
+      tx_scns_2d* const collection = tx_prj_get_plugin_scns_2d_ptr(project, i);
+      const char* const meta_id = tx_scns_2d_get_meta_id(collection);
+      scenes_2d("plugin_collection", meta_id != nullptr ? meta_id : "", collection);
+    }
+    return std::move(out_);
+  }
+
+ private:
+  // The parts of one line, separated by spaces, indented two spaces a level.
+  // Empty parts are left out.
+  void line(std::size_t level, std::initializer_list<std::string_view> parts) {
+    out_.append(2 * level, ' ');
+    bool first = true;
+    for (const std::string_view part : parts) {
+      if (part.empty()) continue;
+      if (!first) out_ += ' ';
+      out_ += part;
+      first = false;
+    }
+    out_ += '\n';
+  }
+
+  // A 2D collection: its kind, its meta id (empty for the project's own) and its caption.
+  void scenes_2d(std::string_view kind, std::string_view meta_id, tx_scns_2d* collection) {
+    line(0, {kind, meta_id,
+             caption_of(tx_scns_2d_safe_upcast(collection), &tx_entities_get_wcaption)});
+    for (uint32_t i = 0; i < tx_scns_2d_get_size(collection); ++i) {
+      scene(tx_scns_2d_get(collection, i));
+    }
+  }
+
+  void scene(tx_scn* scene) {
+    tx_lr_group* const root = tx_scn_get_lr_group_ptr(scene);
+    line(1, {"scene", uuid_of(tx_scn_safe_upcast(scene)), caption_of(scene, &tx_scn_get_wcaption),
+             root == nullptr ? "(no layer group)" : ""});
+    if (root != nullptr) children(root, 2);
+  }
+
+  void children(tx_lr_group* group, std::size_t level) {
+    for (uint32_t i = 0; i < tx_lr_group_get_count_child(group); ++i) {
+      tx_lr_group* const child = tx_lr_group_get_child_by_index(group, i);
+      line(level,
+           {tx_lr_group_is_group(child) ? "group" : "layer",
+            uuid_of(tx_lr_group_safe_upcast(child)), caption_of(child, &tx_lr_group_get_wcaption),
+            tx_lr_group_get_expanded(child) ? "expanded" : "collapsed"});
+      children(child, level + 1);
+    }
+  }
+
+  std::string out_;
+};
+
+}  // namespace
+
+std::string describe_project(tx_prj* project) { return tree_printer().print(project); }
+
+}  // namespace tx::host

@@ -1,0 +1,22 @@
+// The open project as the host's libraries answer for it: what txhost --project prints.
+#pragma once
+
+#include <string>
+
+#include "tx/host/handles.h"
+
+namespace tx::host {
+
+// One element a line, in UTF-8, each level indented by two more spaces:
+//   project "Город" (invert_layers: no)
+//   scenes_2d "Двумерные сцены"
+//     scene 00000000000000a1 "Центр"
+//       group 00000000000000a2 "Улицы" expanded
+//         layer 00000000000000a3 "Магистрали" collapsed
+//     scene 00000000000000a4 "Пусто" (no layer group)
+//   plugin_collection plugin_scn_2d_well_planshet_collection3 "Планшеты"
+// Collections come in the host's order (2D scenes, 3D scenes, layouts, then the plug-ins'),
+// children in the host's order whatever the invert-layers option says.
+std::string describe_project(tx_prj* project);
+
+}  // namespace tx::host

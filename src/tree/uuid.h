@@ -1,0 +1,25 @@
+// Entity uuids as the plug-in keeps them: hashed and compared only through the host.
+#pragma once
+
+#include <cstddef>
+#include <unordered_set>
+
+#include "tx/host/txk_entity.h"
+
+namespace tx {
+
+struct uuid_hash {
+  std::size_t operator()(tx_uuid uuid) const noexcept { return tx_uuid_hash(uuid); }
+};
+struct uuid_equal {
+  bool operator()(tx_uuid a, tx_uuid b) const noexcept { return tx_uuid_equal(a, b); }
+};
+
+// The null uuid: a node that stands for no renameable element.
+inline constexpr tx_uuid null_uuid{0};
+inline bool is_null(tx_uuid uuid) noexcept { return tx_uuid_equal(uuid, null_uuid); }
+
+// The ticked renameable elements, collected from the tree.
+using uuid_set = std::unordered_set<tx_uuid, uuid_hash, uuid_equal>;
+
+}  // namespace tx

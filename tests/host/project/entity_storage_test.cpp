@@ -1,0 +1,127 @@
+// The entity storage: every live scene, group and layer found by its uuid, and nothing else.
+#include <gtest/gtest.h>
+
+#include <unordered_set>
+
+#include "project_files.h"
+#include "tx/host/txk_lr.h"
+#include "tx/host/txk_prj.h"
+#include "tx/host/txk_scn_2d.h"
+#include "tx_host/project.h"
+
+namespace tx::host::testing {
+namespace {
+
+struct element {
+  std::uint64_t uuid;
+  const char16_t* caption;
+};
+
+// Every element of examples/small.json that has a uuid.
+const element small_elements[] = {
+    {0xa01, u"Карта"}, {0xa02, u"Дороги"},      {0xa03, u"Шоссе"},     {0xa04, u"Тропы"},
+    {0xa05, u"Реки"},  {0xa06, u"Без слоёв"},   {0xb01, u"Рельеф"},    {0xc01, u"Лист 1"},
+    {0xc02, u"Рамка"}, {0xd01, u"Чужая сцена"}, {0xe01, u"Планшет 1"}, {0xe02, u"Скважины"},
+};
+
+TEST(EntityStorage, FindsEverySceneGroupAndLayerByUuid) {
+  ASSERT_TRUE(tx_host_project_load(example("small.json").c_str()));
+  for (const element& e : small_elements) {
+    tx_entity* const found = find(e.uuid);
+    ASSERT_NE(found, nullptr) << e.uuid;
+    EXPECT_EQ(tx_entity_get_uuid(found).opaque, e.uuid);
+    EXPECT_EQ(caption(found), e.caption);
+  }
+}
+
+TEST(EntityStorage, FindsTheSameObjectTheTreeHandsOut) {
+  ASSERT_TRUE(tx_host_project_load(example("small.json").c_str()));
+  tx_scn* const map = tx_scns_2d_get(tx_prj_get_scns_2d_ptr(tx_prj_get_instance()), 0);
+  tx_lr_group* const roads = tx_lr_group_get_child_by_index(tx_scn_get_lr_group_ptr(map), 0);
+  EXPECT_EQ(find(0xa01), tx_entities_safe_upcast(tx_scn_safe_upcast(map)));
+  EXPECT_EQ(find(0xa02), tx_entities_safe_upcast(tx_lr_group_safe_upcast(roads)));
+}
+
+TEST(EntityStorage, FindsNothingWithoutAUuidOrAProject) {
+  ASSERT_TRUE(tx_host_project_load(example("small.json").c_str()));
+  for (const std::uint64_t uuid : {0x0ull, 0xa00ull, 0xffffffffffffffffull}) {
+    EXPECT_EQ(find(uuid), nullptr) << uuid;
+  }
+  ASSERT_TRUE(tx_host_project_load(example("empty.json").c_str()));
+  EXPECT_EQ(find(0xa01), nullptr);
+  ASSERT_TRUE(tx_host_project_load(example("small.json").c_str()));
+  tx_host_project_clear();
+  EXPECT_EQ(find(0xa01), nullptr);
+}
+
+TEST(EntityStorage, ARemovedGroupAndWhatItHoldsAreGoneButStayReadable) {
+  ASSERT_TRUE(tx_host_project_load(example("small.json").c_str()));
+  tx_entity* const highway = find(0xa03);
+  tx_lr_group* const root =
+      tx_scn_get_lr_group_ptr(tx_scns_2d_get(tx_prj_get_scns_2d_ptr(tx_prj_get_instance()), 0));
+  ASSERT_EQ(tx_lr_group_get_count_child(root), 2u);
+
+  EXPECT_TRUE(tx_host_project_remove(tx_uuid{0xa02}));
+  for (const std::uint64_t gone : {0xa02, 0xa03, 0xa04}) EXPECT_EQ(find(gone), nullptr) << gone;
+  for (const std::uint64_t kept : {0xa01, 0xa05, 0xc02}) EXPECT_NE(find(kept), nullptr) << kept;
+  ASSERT_EQ(tx_lr_group_get_count_child(root), 1u);
+  EXPECT_EQ(caption(tx_lr_group_get_child_by_index(root, 0), &tx_lr_group_get_wcaption), u"Реки");
+  // A plug-in that still holds the removed layer can read it.
+  EXPECT_EQ(caption(highway), u"Шоссе");
+  EXPECT_FALSE(tx_host_project_remove(tx_uuid{0xa02}));
+  EXPECT_FALSE(tx_host_project_remove(tx_uuid{0xa03}));
+}
+
+TEST(EntityStorage, ARemovedSceneTakesItsLayersAndIsNotSaved) {
+  ASSERT_TRUE(tx_host_project_load(example("small.json").c_str()));
+  tx_scns_2d* const planshets = tx_prj_get_plugin_scns_2d_ptr(tx_prj_get_instance(), 1);
+  EXPECT_TRUE(tx_host_project_remove(tx_uuid{0xe01}));
+  EXPECT_EQ(tx_scns_2d_get_size(planshets), 0u);
+  EXPECT_EQ(find(0xe01), nullptr);
+  EXPECT_EQ(find(0xe02), nullptr);
+
+  const std::string saved = utf8(scratch_folder() / "saved.json");
+  ASSERT_TRUE(tx_host_project_save(saved.c_str()));
+  ASSERT_TRUE(tx_host_project_load(saved.c_str()));
+  EXPECT_EQ(find(0xe01), nullptr);
+  EXPECT_EQ(tx_scns_2d_get_size(tx_prj_get_plugin_scns_2d_ptr(tx_prj_get_instance(), 1)), 0u);
+  EXPECT_NE(find(0xd01), nullptr);
+}
+
+TEST(EntityStorage, NothingToRemoveIsTold) {
+  tx_host_project_clear();
+  EXPECT_FALSE(tx_host_project_remove(tx_uuid{0xa01}));
+  ASSERT_TRUE(tx_host_project_load(example("small.json").c_str()));
+  EXPECT_FALSE(tx_host_project_remove(tx_uuid{0}));
+  EXPECT_FALSE(tx_host_project_remove(tx_uuid{0x123}));
+}
+
+TEST(UuidHashAndEqual, EqualExactlyWhenTheValuesAreAndHashedAlike) {
+  const struct {
+    std::uint64_t a;
+    std::uint64_t b;
+    bool equal;
+  } rows[] = {
+      {0, 0, true},          {0xa01, 0xa01, true}, {0xffffffffffffffff, 0xffffffffffffffff, true},
+      {0xa01, 0xa02, false}, {0, 1, false},        {0x8000000000000000, 0x0000000000000001, false},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(tx_uuid_equal(tx_uuid{row.a}, tx_uuid{row.b}), row.equal) << row.a << " " << row.b;
+    EXPECT_EQ(tx_uuid_equal(tx_uuid{row.b}, tx_uuid{row.a}), row.equal);
+    if (row.equal) {
+      EXPECT_EQ(tx_uuid_hash(tx_uuid{row.a}), tx_uuid_hash(tx_uuid{row.b}));
+    }
+  }
+}
+
+TEST(UuidHashAndEqual, DistinctUuidsHashApart) {
+  std::unordered_set<size_t> hashes;
+  for (std::uint64_t value = 0; value < 1000; ++value) {
+    hashes.insert(tx_uuid_hash(tx_uuid{value}));
+    hashes.insert(tx_uuid_hash(tx_uuid{value << 52}));
+  }
+  EXPECT_EQ(hashes.size(), 1999u);  // 0 << 52 is 0 again
+}
+
+}  // namespace
+}  // namespace tx::host::testing

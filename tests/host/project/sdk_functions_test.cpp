@@ -1,0 +1,211 @@
+// The SDK's project functions over examples/small.json, called as a plug-in calls them.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "project_files.h"
+#include "tx/host/txk_lr.h"
+#include "tx/host/txk_prj.h"
+#include "tx/host/txk_scn_2d.h"
+#include "tx/host/txk_scn_3d.h"
+#include "tx_host/project.h"
+
+namespace tx::host::testing {
+namespace {
+
+tx_prj* open_small() {
+  EXPECT_TRUE(tx_host_project_load(example("small.json").c_str())) << tx_host_project_error();
+  return tx_prj_get_instance();
+}
+
+std::u16string collection_caption(tx_entities* collection) {
+  return caption(collection, &tx_entities_get_wcaption);
+}
+
+std::vector<std::u16string> scene_captions(tx_scns_2d* collection) {
+  std::vector<std::u16string> captions;
+  for (uint32_t i = 0; i < tx_scns_2d_get_size(collection); ++i) {
+    captions.push_back(caption(tx_scns_2d_get(collection, i), &tx_scn_get_wcaption));
+  }
+  return captions;
+}
+
+TEST(ProjectSdk, CollectionsHaveTheirCaptionsSizesAndMetaIds) {
+  tx_prj* const project = open_small();
+  ASSERT_NE(project, nullptr);
+  tx_scns_2d* const scenes_2d = tx_prj_get_scns_2d_ptr(project);
+  tx_scns_3d* const scenes_3d = tx_prj_get_scns_3d_ptr(project);
+  tx_scns_2d* const layouts = tx_prj_get_layouts_data_ptr(project);
+  EXPECT_EQ(collection_caption(tx_scns_2d_safe_upcast(scenes_2d)), u"2D-сцены");
+  EXPECT_EQ(collection_caption(tx_scns_3d_safe_upcast(scenes_3d)), u"3D-сцены");
+  EXPECT_EQ(collection_caption(tx_scns_2d_safe_upcast(layouts)), u"Компоновки");
+  EXPECT_EQ(tx_scns_2d_get_size(scenes_2d), 2u);
+  EXPECT_EQ(tx_scns_3d_get_size(scenes_3d), 1u);
+  EXPECT_EQ(tx_scns_2d_get_size(layouts), 1u);
+  EXPECT_STREQ(tx_scns_2d_get_meta_id(scenes_2d), "");
+
+  ASSERT_EQ(tx_prj_get_plugin_scns_2d_count(project), 2);
+  const struct {
+    const char* meta_id;
+    const char16_t* caption;
+    std::vector<std::u16string> scenes;
+  } plugins[] = {
+      {"plugin_other_collection", u"Чужая коллекция", {u"Чужая сцена"}},
+      {"plugin_scn_2d_well_planshet_collection3", u"Планшеты", {u"Планшет 1"}},
+  };
+  for (int32_t i = 0; i < 2; ++i) {
+    tx_scns_2d* const collection = tx_prj_get_plugin_scns_2d_ptr(project, i);
+    ASSERT_NE(collection, nullptr);
+    EXPECT_STREQ(tx_scns_2d_get_meta_id(collection), plugins[i].meta_id);
+    EXPECT_EQ(collection_caption(tx_scns_2d_safe_upcast(collection)), plugins[i].caption);
+    EXPECT_EQ(scene_captions(collection), plugins[i].scenes);
+  }
+  for (const int32_t outside : {-1, 2, 1000}) {
+    EXPECT_EQ(tx_prj_get_plugin_scns_2d_ptr(project, outside), nullptr) << outside;
+  }
+}
+
+TEST(ProjectSdk, ScenesComeInOrderWithARootGroupOrNone) {
+  tx_prj* const project = open_small();
+  tx_scns_2d* const scenes_2d = tx_prj_get_scns_2d_ptr(project);
+  EXPECT_EQ(scene_captions(scenes_2d), (std::vector<std::u16string>{u"Карта", u"Без слоёв"}));
+  EXPECT_EQ(tx_scns_2d_get(scenes_2d, 2), nullptr);
+
+  const struct {
+    tx_scn* scene;
+    std::uint64_t uuid;
+    bool has_root;
+    uint32_t children;
+  } rows[] = {
+      {tx_scns_2d_get(scenes_2d, 0), 0xa01, true, 2},
+      {tx_scns_2d_get(scenes_2d, 1), 0xa06, false, 0},
+      {tx_scns_3d_get(tx_prj_get_scns_3d_ptr(project), 0), 0xb01, true, 0},
+      {tx_scns_2d_get(tx_prj_get_layouts_data_ptr(project), 0), 0xc01, true, 1},
+  };
+  for (const auto& row : rows) {
+    ASSERT_NE(row.scene, nullptr) << row.uuid;
+    EXPECT_EQ(tx_entity_get_uuid(tx_entities_safe_upcast(tx_scn_safe_upcast(row.scene))).opaque,
+              row.uuid);
+    tx_lr_group* const root = tx_scn_get_lr_group_ptr(row.scene);
+    EXPECT_EQ(root != nullptr, row.has_root) << row.uuid;
+    EXPECT_EQ(tx_lr_group_get_count_child(root), row.children) << row.uuid;
+  }
+  EXPECT_EQ(tx_scns_3d_get(tx_prj_get_scns_3d_ptr(project), 1), nullptr);
+}
+
+TEST(ProjectSdk, LayerTreeHoldsGroupsLayersAndExpandedStatesInOrder) {
+  tx_prj* const project = open_small();
+  tx_lr_group* const map_root =
+      tx_scn_get_lr_group_ptr(tx_scns_2d_get(tx_prj_get_scns_2d_ptr(project), 0));
+  tx_lr_group* const roads = tx_lr_group_get_child_by_index(map_root, 0);
+  tx_lr_group* const planshet_root =
+      tx_scn_get_lr_group_ptr(tx_scns_2d_get(tx_prj_get_plugin_scns_2d_ptr(project, 1), 0));
+  const struct {
+    tx_lr_group* node;
+    std::uint64_t uuid;
+    const char16_t* caption;
+    bool group;
+    bool expanded;
+    uint32_t children;
+  } rows[] = {
+      {roads, 0xa02, u"Дороги", true, true, 2},
+      {tx_lr_group_get_child_by_index(roads, 0), 0xa03, u"Шоссе", false, false, 0},
+      {tx_lr_group_get_child_by_index(roads, 1), 0xa04, u"Тропы", false, false, 0},
+      {tx_lr_group_get_child_by_index(map_root, 1), 0xa05, u"Реки", false, true, 0},
+      {tx_lr_group_get_child_by_index(planshet_root, 0), 0xe02, u"Скважины", true, false, 0},
+  };
+  for (const auto& row : rows) {
+    ASSERT_NE(row.node, nullptr) << row.uuid;
+    EXPECT_EQ(tx_entity_get_uuid(tx_entities_safe_upcast(tx_lr_group_safe_upcast(row.node))).opaque,
+              row.uuid);
+    EXPECT_EQ(caption(row.node, &tx_lr_group_get_wcaption), row.caption);
+    EXPECT_EQ(tx_lr_group_is_group(row.node), row.group) << row.uuid;
+    EXPECT_EQ(tx_lr_group_get_expanded(row.node), row.expanded) << row.uuid;
+    EXPECT_EQ(tx_lr_group_get_count_child(row.node), row.children) << row.uuid;
+  }
+  // The root group stands for no element and is a group.
+  EXPECT_EQ(tx_entity_get_uuid(tx_entities_safe_upcast(tx_lr_group_safe_upcast(map_root))).opaque,
+            0u);
+  EXPECT_TRUE(tx_lr_group_is_group(map_root));
+  EXPECT_EQ(tx_lr_group_get_child_by_index(map_root, 2), nullptr);
+}
+
+TEST(ProjectSdk, InvertLayersFollowsTheProjectAndTheHostsSetting) {
+  tx_host_project_clear();
+  EXPECT_FALSE(tx_options_get_invert_layers());
+  tx_host_project_set_invert_layers(true);  // nothing open: nothing to set
+  EXPECT_FALSE(tx_options_get_invert_layers());
+
+  open_small();
+  EXPECT_FALSE(tx_options_get_invert_layers());
+  tx_host_project_set_invert_layers(true);
+  EXPECT_TRUE(tx_options_get_invert_layers());
+  const std::string saved = utf8(scratch_folder() / "inverted.json");
+  ASSERT_TRUE(tx_host_project_save(saved.c_str()));
+  open_small();
+  EXPECT_FALSE(tx_options_get_invert_layers());
+  ASSERT_TRUE(tx_host_project_load(saved.c_str()));
+  EXPECT_TRUE(tx_options_get_invert_layers());
+  tx_host_project_set_invert_layers(false);
+  EXPECT_FALSE(tx_options_get_invert_layers());
+}
+
+TEST(ProjectSdk, TheProjectIsAnEntityWithItsCaption) {
+  tx_prj* const project = open_small();
+  tx_entity* const entity = tx_prj_safe_upcast(project);
+  ASSERT_NE(entity, nullptr);
+  EXPECT_EQ(caption(entity), u"Малый проект");
+  EXPECT_EQ(tx_entity_get_uuid(entity).opaque, 0u);
+  EXPECT_EQ(tx_prj_get_instance(), project);
+}
+
+TEST(ProjectSdk, EveryCaptionGetterReplacesTheCallersString) {
+  tx_prj* const project = open_small();
+  tx_scns_2d* const scenes = tx_prj_get_scns_2d_ptr(project);
+  tx_scn* const map = tx_scns_2d_get(scenes, 0);
+  tx_lr_group* const roads = tx_lr_group_get_child_by_index(tx_scn_get_lr_group_ptr(map), 0);
+  const std::u16string long_before(300, u'x');
+  EXPECT_EQ(caption(tx_prj_safe_upcast(project), &tx_entity_get_wcaption, long_before),
+            u"Малый проект");
+  EXPECT_EQ(caption(tx_scns_2d_safe_upcast(scenes), &tx_entities_get_wcaption, long_before),
+            u"2D-сцены");
+  EXPECT_EQ(caption(map, &tx_scn_get_wcaption, long_before), u"Карта");
+  EXPECT_EQ(caption(roads, &tx_lr_group_get_wcaption, long_before), u"Дороги");
+  // An empty caption empties the string.
+  tx_entity_set_wcaption(tx_entities_safe_upcast(tx_lr_group_safe_upcast(roads)), u"");
+  EXPECT_EQ(caption(roads, &tx_lr_group_get_wcaption, long_before), u"");
+  // A null adapter is ignored.
+  tx_scn_get_wcaption(map, nullptr);
+}
+
+TEST(ProjectSdk, NullHandlesAnswerNothingAndChangeNothing) {
+  tx_host_project_clear();
+  EXPECT_EQ(tx_prj_get_instance(), nullptr);
+  EXPECT_EQ(tx_prj_safe_upcast(nullptr), nullptr);
+  EXPECT_EQ(tx_prj_get_scns_2d_ptr(nullptr), nullptr);
+  EXPECT_EQ(tx_prj_get_scns_3d_ptr(nullptr), nullptr);
+  EXPECT_EQ(tx_prj_get_layouts_data_ptr(nullptr), nullptr);
+  EXPECT_EQ(tx_prj_get_plugin_scns_2d_count(nullptr), 0);
+  EXPECT_EQ(tx_prj_get_plugin_scns_2d_ptr(nullptr, 0), nullptr);
+  EXPECT_EQ(tx_scns_2d_get_size(nullptr), 0u);
+  EXPECT_EQ(tx_scns_2d_get(nullptr, 0), nullptr);
+  EXPECT_EQ(tx_scns_2d_get_meta_id(nullptr), nullptr);
+  EXPECT_EQ(tx_scns_3d_get_size(nullptr), 0u);
+  EXPECT_EQ(tx_scns_3d_get(nullptr, 0), nullptr);
+  EXPECT_EQ(tx_scn_get_lr_group_ptr(nullptr), nullptr);
+  EXPECT_EQ(tx_lr_group_get_count_child(nullptr), 0u);
+  EXPECT_EQ(tx_lr_group_get_child_by_index(nullptr, 0), nullptr);
+  EXPECT_FALSE(tx_lr_group_is_group(nullptr));
+  EXPECT_FALSE(tx_lr_group_get_expanded(nullptr));
+  EXPECT_EQ(tx_entity_get_uuid(nullptr).opaque, 0u);
+  EXPECT_EQ(caption(static_cast<tx_scn*>(nullptr), &tx_scn_get_wcaption), u"<untouched>");
+  EXPECT_EQ(caption(static_cast<tx_lr_group*>(nullptr), &tx_lr_group_get_wcaption), u"<untouched>");
+  EXPECT_EQ(caption(static_cast<tx_entities*>(nullptr), &tx_entities_get_wcaption), u"<untouched>");
+  EXPECT_EQ(caption(static_cast<tx_entity*>(nullptr)), u"<untouched>");
+  tx_entity_set_wcaption(nullptr, u"ignored");
+  EXPECT_EQ(tx_host_project_caption_write_count(), 0u);
+}
+
+}  // namespace
+}  // namespace tx::host::testing

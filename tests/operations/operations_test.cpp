@@ -1,0 +1,203 @@
+// The four operations driven through their panels' controls, as the host drives them: what each
+// reads at apply time, what remember keeps, what reset empties, when each is idle, and the chain
+// of the list's active operations.
+#include <gtest/gtest.h>
+
+#include "rename/case_change.h"
+#include "rename/erase.h"
+#include "rename/find_replace.h"
+#include "rename/insert.h"
+#include "rename/operation_list.h"
+#include "tx/toolkit/controls.h"
+#include "tx_host/basic.h"
+
+namespace tx {
+namespace {
+
+// Types into an input and picks drop-down items through the host's side of the interfaces.
+void type(toolkit::assisted_input& input, const char16_t* text) {
+  const custom_pointer p = input.pointer();
+  static_cast<const tx_assisted_input_interface_3*>(p.table)->set_text(p.object, text);
+}
+void pick(toolkit::dropdown_base& list, std::int32_t index) {
+  const custom_pointer p = list.pointer();
+  static_cast<const tx_dropdown_interface_3*>(p.table)->select(p.object, index);
+}
+void tick(toolkit::checkbox& box, bool on) {
+  const custom_pointer p = box.pointer();
+  static_cast<const tx_checkbox_interface_2*>(p.table)->set_checked(p.object, on);
+}
+
+std::u16string applied(prjrename_operation& op, const std::u16string& name,
+                       bool* changed = nullptr) {
+  std::u16string out;
+  const bool c = op.apply(name, out);
+  if (changed != nullptr) *changed = c;
+  return out;
+}
+
+TEST(FindReplaceOperation, ReadsItsPanelWhenApplied) {
+  prjrename_find_replace op;
+  auto& p = op.settings();
+  EXPECT_TRUE(op.is_idle());
+  EXPECT_EQ(p.mode.selection(), 0);  // "All" at the start
+  type(p.search, u"road");
+  type(p.replacement, u"street");
+  EXPECT_FALSE(op.is_idle());
+  EXPECT_EQ(applied(op, u"Road road ROAD"), u"street street street");
+  pick(p.mode, 3);  // all except first
+  EXPECT_EQ(applied(op, u"Road road ROAD"), u"road street street");
+  tick(p.match_case, true);
+  EXPECT_EQ(applied(op, u"Road road ROAD"), u"Road road ROAD");
+  pick(p.mode, -1);  // no selection counts as all
+  tick(p.match_case, false);
+  tick(p.whole_word, true);
+  EXPECT_EQ(applied(op, u"railroad road"), u"railroad street");
+}
+
+TEST(FindReplaceOperation, RememberKeepsBothTextsResetEmptiesThem) {
+  prjrename_find_replace op;
+  auto& p = op.settings();
+  op.remember();  // empty search: nothing kept
+  EXPECT_TRUE(p.search.history().empty());
+  type(p.search, u"a");
+  op.remember();  // the empty replacement is kept with it
+  type(p.search, u"b");
+  type(p.replacement, u"c");
+  op.remember();
+  type(p.search, u"a");
+  op.remember();
+  EXPECT_EQ(p.search.history(), (std::vector<std::u16string>{u"a", u"b"}));
+  EXPECT_EQ(p.replacement.history(), (std::vector<std::u16string>{u"c", u""}));
+  pick(p.mode, 2);
+  tick(p.whole_word, true);
+  op.reset();
+  EXPECT_TRUE(p.search.value().empty());
+  EXPECT_TRUE(p.replacement.value().empty());
+  EXPECT_EQ(p.mode.selection(), 2);  // mode and boxes stay
+  EXPECT_TRUE(p.whole_word.is_checked());
+  EXPECT_TRUE(op.is_idle());
+}
+
+TEST(CaseChangeOperation, ItemsStandNoChangeFirstAndNoSelectionLowers) {
+  prjrename_case_change op;
+  auto& p = op.settings();
+  EXPECT_TRUE(op.is_idle());
+  struct row {
+    std::int32_t item;
+    const char16_t* expected;
+  };
+  for (const row& r : {row{0, u"Main Road"}, row{1, u"main road"}, row{2, u"MAIN ROAD"},
+                       row{3, u"Main road"}, row{-1, u"main road"}}) {
+    pick(p.mode, r.item);
+    EXPECT_EQ(applied(op, u"Main Road"), r.expected) << r.item;
+  }
+  op.reset();
+  EXPECT_EQ(p.mode.selection(), 0);
+  EXPECT_TRUE(op.is_idle());
+  op.remember();  // case change keeps no history: nothing to check but that it does nothing
+  EXPECT_EQ(p.mode.selection(), 0);
+}
+
+TEST(InsertOperation, AddsAtTheChosenEndAndRemembersTheText) {
+  prjrename_insert op;
+  auto& p = op.settings();
+  EXPECT_TRUE(op.is_idle());
+  type(p.text, u"new_");
+  bool changed = false;
+  EXPECT_EQ(applied(op, u"", &changed), u"new_");
+  EXPECT_TRUE(changed);
+  pick(p.position, 1);
+  EXPECT_EQ(applied(op, u"layer"), u"layernew_");
+  op.remember();
+  op.reset();
+  EXPECT_EQ(p.text.history(), std::vector<std::u16string>{u"new_"});
+  EXPECT_TRUE(op.is_idle());
+  EXPECT_EQ(p.position.selection(), 1);
+}
+
+TEST(EraseOperation, KindCountSideAndCharactersComeFromThePanel) {
+  prjrename_erase op;
+  auto& p = op.settings();
+  EXPECT_EQ(p.kind.selection(), 4);  // "no change" at the start
+  EXPECT_TRUE(op.is_idle());
+  pick(p.kind, 0);
+  EXPECT_TRUE(op.is_idle());  // N = 0
+  p.count.set_value(3);
+  EXPECT_FALSE(op.is_idle());
+  pick(p.side, 1);
+  bool changed = false;
+  EXPECT_EQ(applied(op, u"abc", &changed), u"");
+  EXPECT_TRUE(changed);
+  pick(p.kind, 1);
+  EXPECT_TRUE(op.is_idle());  // no characters
+  type(p.characters, u"_");
+  EXPECT_EQ(applied(op, u"a_b_c"), u"_b_c");
+  pick(p.kind, 2);
+  EXPECT_EQ(applied(op, u"a_b_c"), u"a_b_");
+  pick(p.kind, 3);
+  EXPECT_EQ(applied(op, u"archive.tar.gz"), u"archive.tar");
+}
+
+TEST(EraseOperation, ResetClearsKindCountTextAndBoxesButKeepsTheSide) {
+  prjrename_erase op;
+  auto& p = op.settings();
+  pick(p.kind, 1);
+  p.count.set_value(5);
+  pick(p.side, 1);
+  type(p.characters, u"x");
+  tick(p.match_case, true);
+  tick(p.whole_word, true);
+  op.remember();
+  op.reset();
+  EXPECT_EQ(p.kind.selection(), -1);
+  EXPECT_EQ(p.count.current(), 0);
+  EXPECT_TRUE(p.characters.value().empty());
+  EXPECT_FALSE(p.match_case.is_checked());
+  EXPECT_FALSE(p.whole_word.is_checked());
+  EXPECT_EQ(p.side.selection(), 1);
+  EXPECT_EQ(p.characters.history(), std::vector<std::u16string>{u"x"});
+  EXPECT_TRUE(op.is_idle());  // no kind selected acts as no change
+  EXPECT_EQ(applied(op, u"a.b"), u"a.b");
+}
+
+TEST(OperationList, FixedOrderAndOnlyTheActiveOnesChainedInIt) {
+  tx_host_set_lng(0);
+  prjrename_operation_list list;
+  const auto& ops = list.operations();
+  ASSERT_EQ(ops.size(), 4u);
+  std::vector<std::uint32_t> titles;
+  for (const auto& op : ops) titles.push_back(op->title_id());
+  EXPECT_EQ(titles, (std::vector<std::uint32_t>{150, 175, 200, 225}));
+  EXPECT_EQ(list.shown, 0u);
+  EXPECT_TRUE(list.active().empty());
+
+  auto& replace = static_cast<prjrename_find_replace&>(*ops[0]).settings();
+  auto& casing = static_cast<prjrename_case_change&>(*ops[1]).settings();
+  auto& insert = static_cast<prjrename_insert&>(*ops[2]).settings();
+  auto& erase = static_cast<prjrename_erase&>(*ops[3]).settings();
+  type(replace.search, u"road");
+  type(replace.replacement, u"street");
+  pick(casing.mode, 2);  // upper case
+  type(insert.text, u".shp");
+  pick(insert.position, 1);
+  pick(erase.kind, 3);  // extension: takes off what insert just added
+  EXPECT_EQ(list.active().size(), 4u);
+
+  std::u16string current, scratch;
+  EXPECT_TRUE(rename::run_chain(list.active(), u"main road.tab", current, scratch));
+  EXPECT_EQ(current, u"MAIN STREET.TAB");
+  // An operation that changes nothing passes the name on.
+  EXPECT_TRUE(rename::run_chain(list.active(), u"lane.tab", current, scratch));
+  EXPECT_EQ(current, u"LANE.TAB");
+  // With only find and replace left active, a name without the search text is unchanged.
+  pick(casing.mode, 0);
+  type(insert.text, u"");
+  pick(erase.kind, 4);
+  ASSERT_EQ(list.active().size(), 1u);
+  EXPECT_FALSE(rename::run_chain(list.active(), u"lane", current, scratch));
+  EXPECT_EQ(current, u"lane");
+}
+
+}  // namespace
+}  // namespace tx

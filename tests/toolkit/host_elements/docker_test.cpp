@@ -1,0 +1,65 @@
+// The docker frame and the picture element: what the host reads from them.
+#include "toolkit/docker.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "host_doubles.h"
+#include "toolkit/bitmap.h"
+#include "tx_host/basic.h"
+
+namespace tx::test {
+namespace {
+
+// A content widget whose layout is a single picture.
+struct picture_widget {
+  explicit picture_widget(std::int32_t image) : picture(image) {}
+  custom_pointer layout() { return picture.pointer(); }
+  toolkit::bitmap picture;
+};
+
+TEST(Docker, AnswersFlagsIdCaptionAndContent) {
+  toolkit::docker<picture_widget> frame(10, 100);
+  const tx_custom_pointer d = frame.pointer();
+  const auto& t = ops<tx_docker_interface_92>(d);
+  EXPECT_EQ(t.flags(d.object), 1u);
+  EXPECT_EQ(t.id(d.object), 0xFFFFFFFFu);
+  string_sink caption;
+  tx_host_set_lng(50000);
+  EXPECT_TRUE(t.caption(d.object, caption.pointer()));
+  tx_host_set_lng(0);
+  EXPECT_EQ(caption.texts, std::vector<std::u16string>{u"Rename Project Elements"});
+  bytes_sink image;  // the plug-in has no bitmap 10
+  EXPECT_FALSE(t.image(d.object, image.pointer()));
+  EXPECT_TRUE(image.pictures.empty());
+  element_sink content;
+  t.visit_content(d.object, content.pointer());
+  ASSERT_EQ(content.elements.size(), 1u);
+  EXPECT_TRUE(same_pair(content.elements[0], frame.widget().picture.pointer()));
+
+  toolkit::docker<picture_widget> bare(0, 0);  // id 0: neither caption nor image
+  EXPECT_FALSE(bare.caption(caption.pointer()) || bare.image(image.pointer()));
+  EXPECT_EQ(caption.texts.size() + image.pictures.size(), 1u);
+}
+
+TEST(Bitmap, PixelsComeFromTheReferenceAndChangesAreToldOnce) {
+  toolkit::bitmap picture(100);
+  recording_view view;
+  picture.set_view(view.pointer());
+  bytes_sink pixels;
+  EXPECT_TRUE(ops<tx_bitmap_interface_0>(picture.pointer())
+                  .pixels(picture.pointer().object, pixels.pointer()));
+  for (std::int32_t absent : {0, 999}) {
+    picture.set_image(absent);
+    EXPECT_FALSE(picture.pixels(pixels.pointer())) << absent;
+  }
+  EXPECT_EQ(pixels.pictures, (std::vector<std::vector<std::int32_t>>{{16, 16, 3}}));
+  picture.set_image(999);
+  picture.set_hint(101);
+  EXPECT_EQ(view.told,
+            (std::vector<std::uint32_t>{TX_CHANGED_VALUE, TX_CHANGED_VALUE, TX_CHANGED_TEXTS}));
+}
+
+}  // namespace
+}  // namespace tx::test

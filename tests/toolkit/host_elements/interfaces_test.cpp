@@ -1,0 +1,95 @@
+// What every element shares: it answers its own interface name and no other (not even another
+// version of it), and it tells its view of changes only while it has one.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "host_doubles.h"
+#include "test_outline.h"
+#include "toolkit/bitmap.h"
+#include "toolkit/button_box.h"
+#include "toolkit/docker.h"
+#include "toolkit/tool.h"
+#include "toolkit/toolbar.h"
+
+namespace tx::test {
+namespace {
+
+using action_tool = toolkit::detail::tool<action_tool_impl, void>;
+
+struct one_tool final : toolkit::with_tools {
+  void publish(toolkit::tools_visitor& visitor) override { visitor.tool(u"only", only.pointer()); }
+  action_tool only;
+};
+
+struct picture_widget {
+  custom_pointer layout() { return picture.pointer(); }
+  toolkit::bitmap picture{100};
+};
+
+TEST(Elements, EachAnswersOnlyItsOwnInterfaceName) {
+  outline_fixture f;
+  toolkit::toolbar<one_tool, toolbar_impl, void> bar;
+  toolkit::docker<picture_widget> frame(10);
+  toolkit::button_box box(10);
+  const tx_custom_pointer set = bar.tool_set();
+  const std::pair<tx_custom_pointer, const char*> elements[] = {
+      {f.view.pointer(), TX_OUTLINE_INTERFACE_32},
+      {row(&f.layer).pointer(), TX_OUTLINE_ITEM_INTERFACE_0},
+      {f.checks.pointer(), TX_OUTLINE_CHECKS_INTERFACE_1},
+      {f.names.pointer(), TX_STRING_OUTLINE_COLUMN_INTERFACE_10},
+      {bar.pointer(), TX_TOOLBAR_INTERFACE_6},
+      {set, TX_TOOL_SET_INTERFACE_5},
+      {bar.tools().only.pointer(), TX_ACTION_TOOL_INTERFACE_0},
+      {frame.pointer(), TX_DOCKER_INTERFACE_92},
+      {box.pointer(), TX_BUTTON_BOX_INTERFACE_2},
+      {frame.widget().picture.pointer(), TX_BITMAP_INTERFACE_0},
+  };
+  const char* other_versions[] = {"tx_outline_interface_31", "tx_docker_interface_93",
+                                  "tx_outline_item_interface", ""};
+  for (const auto& [element, own] : elements) {
+    for (const auto& [unused, name] : elements) {
+      EXPECT_TRUE(
+          same_pair(ask(element, name), std::string(name) == own ? element : tx_custom_pointer{}))
+          << own << " asked for " << name;
+    }
+    for (const char* name : other_versions) {
+      EXPECT_TRUE(same_pair(ask(element, name), {})) << own << " asked for " << name;
+    }
+  }
+}
+
+TEST(Elements, ANullViewNotifiesNobody) {
+  outline_fixture f;
+  action_tool tool;
+  toolkit::bitmap picture(100);
+  struct view_case {
+    const char* what;
+    std::function<void(tx_custom_pointer)> set_view;
+    std::function<void()> change;
+    std::uint32_t told;
+  };
+  const view_case cases[] = {
+      {"outline", [&](tx_custom_pointer v) { f.view.set_view(v); }, [&] { f.view.reload(); },
+       TX_CHANGED_ROWS},
+      {"tool", [&](tx_custom_pointer v) { tool.set_view(v); },
+       [&] { tool.set_enabled(!tool.enabled()); }, TX_CHANGED_STATE},
+      {"bitmap", [&](tx_custom_pointer v) { picture.set_view(v); },
+       [&] { picture.set_image(picture.image() + 1); }, TX_CHANGED_VALUE},
+  };
+  for (const view_case& c : cases) {
+    recording_view view;
+    c.set_view(view.pointer());
+    c.change();
+    for (const tx_custom_pointer absent :
+         {tx_custom_pointer{}, {view.pointer().table, nullptr}, {nullptr, &view}}) {
+      c.set_view(absent);
+      c.change();
+    }
+    EXPECT_EQ(view.told, std::vector<std::uint32_t>{c.told}) << c.what;
+  }
+}
+
+}  // namespace
+}  // namespace tx::test

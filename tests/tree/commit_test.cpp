@@ -1,0 +1,132 @@
+// The execute step's warnings and the commit: validation before any write, progress, the update
+// bracket, deleted elements, every entry written.
+#include "tree/commit.h"
+
+#include "project_fixture.h"
+#include "rename/find_replace.h"
+#include "tree/execute.h"
+
+namespace tx {
+namespace {
+
+using test::collection;
+using test::layer;
+using test::project_json;
+using test::scene;
+
+struct dialog_state : test::project_fixture {
+  prjrename_names names;
+  prjrename_operation_list operations;
+
+  dialog_state()
+      : project_fixture(project_json(
+            R"("scenes_2d": )" + collection("S2", {scene("1", "Map",
+                                                         {layer("2", "Roads"), layer("3", "Rivers"),
+                                                          layer("4", "Lakes")})}))) {
+    tx_host_set_lng(0);
+  }
+  prjrename_find_replace::panel& replace() const {
+    return static_cast<prjrename_find_replace&>(*operations.operations()[0]).settings();
+  }
+  std::vector<std::pair<std::uint64_t, std::u16string>> writes() const {
+    std::vector<std::pair<std::uint64_t, std::u16string>> list;
+    for (std::size_t i = 0; i < tx_host_project_caption_write_count(); ++i) {
+      tx_host_caption_write w{};
+      tx_host_project_caption_write(i, &w);
+      list.emplace_back(w.uuid.opaque, w.new_caption);
+    }
+    std::sort(list.begin(), list.end());
+    return list;
+  }
+};
+
+TEST(Execute, AllIdleWarnsNoConditionsEvenWithNothingTicked) {
+  dialog_state d;
+  ASSERT_TRUE(d.loaded) << tx_host_project_error();
+  EXPECT_FALSE(execute_operations(d.operations, *d.root, d.names));
+  EXPECT_EQ(test::warnings(), std::vector<std::u16string>{u"Не заданы условия переименования"});
+}
+
+TEST(Execute, NothingRenameableTickedWarnsAndKeepsTheSettings) {
+  dialog_state d;
+  ASSERT_TRUE(d.loaded);
+  d.replace().search.assign_text(u"o");
+  d.at({0}).checked = true;  // a collection row only
+  EXPECT_FALSE(execute_operations(d.operations, *d.root, d.names));
+  EXPECT_EQ(test::warnings(),
+            std::vector<std::u16string>{u"Не выбран ни один элемент для переименования"});
+  EXPECT_EQ(d.replace().search.value(), u"o");
+  EXPECT_TRUE(d.replace().search.history().empty());
+}
+
+TEST(Execute, AppliesRemembersAndResets) {
+  dialog_state d;
+  ASSERT_TRUE(d.loaded);
+  d.replace().search.assign_text(u"R");
+  d.replace().replacement.assign_text(u"B");
+  d.root->set_check(check_tick, false);
+  EXPECT_TRUE(execute_operations(d.operations, *d.root, d.names));
+  EXPECT_TRUE(test::warnings().empty());
+  EXPECT_EQ(d.names.find(test::uuid(2))->new_name, u"Boads");
+  EXPECT_EQ(d.names.find(test::uuid(3))->new_name, u"BiveBs");  // matching ignores case
+  EXPECT_EQ(d.names.find(test::uuid(1)), nullptr);              // "Map" has no r: no entry
+  EXPECT_TRUE(d.replace().search.value().empty());
+  EXPECT_EQ(d.replace().search.history(), std::vector<std::u16string>{u"R"});
+}
+
+TEST(Commit, NoEntriesWarnsAndTouchesNothing) {
+  dialog_state d;
+  ASSERT_TRUE(d.loaded);
+  EXPECT_FALSE(commit_names(d.names, tx_prj_get_instance()));
+  EXPECT_EQ(test::warnings(), std::vector<std::u16string>{u"Не заданы новые имена"});
+  EXPECT_EQ(tx_host_msgs_progress_created(), 0u);
+  EXPECT_EQ(tx_host_project_caption_write_count(), 0u);
+}
+
+TEST(Commit, AnEmptyNameAnywhereWritesNothing) {
+  dialog_state d;
+  ASSERT_TRUE(d.loaded);
+  d.names.set_name(test::uuid(2), u"Streets");
+  d.names.set_name(test::uuid(3), u"");
+  d.names.set_name(test::uuid(4), u"Ponds");
+  tx_host_set_lng(50000);
+  EXPECT_FALSE(commit_names(d.names, tx_prj_get_instance()));
+  tx_host_set_lng(0);
+  EXPECT_EQ(test::warnings(),
+            std::vector<std::u16string>{
+                u"An empty name was specified for renaming. Check the element tree"});
+  EXPECT_EQ(tx_host_project_caption_write_count(), 0u);
+  EXPECT_EQ(tx_host_msgs_progress_created(), 0u);
+}
+
+TEST(Commit, WritesEveryEntryInOneBracketWithProgressAndSkipsDeletedOnes) {
+  dialog_state d;
+  ASSERT_TRUE(d.loaded);
+  d.names.set_name(test::uuid(2), u"Streets");
+  d.names.set_name(test::uuid(3), u"Rivers");  // equal to the caption: still written
+  d.names.set_name(test::uuid(4), u"Ponds");
+  ASSERT_TRUE(tx_host_project_remove(test::uuid(4)));
+  EXPECT_TRUE(commit_names(d.names, tx_prj_get_instance()));
+  EXPECT_EQ(d.writes(), (std::vector<std::pair<std::uint64_t, std::u16string>>{{2, u"Streets"},
+                                                                               {3, u"Rivers"}}));
+  std::vector<double> reports;
+  for (std::size_t i = 0; i < tx_host_msgs_progress_report_count(); ++i) {
+    reports.push_back(tx_host_msgs_progress_report(i));
+  }
+  EXPECT_EQ(reports, (std::vector<double>{1.0 / 3, 2.0 / 3, 1.0}));
+  EXPECT_EQ(tx_host_msgs_progress_destroyed(), 1u);
+  tx_host_update_bracket bracket{};
+  tx_host_project_update_bracket(&bracket);
+  EXPECT_EQ(bracket.begins, 1u);
+  EXPECT_EQ(bracket.ends, 1u);
+  EXPECT_EQ(bracket.depth, 0u);
+  for (std::size_t i = 0; i < tx_host_project_caption_write_count(); ++i) {
+    tx_host_caption_write w{};
+    tx_host_project_caption_write(i, &w);
+    EXPECT_EQ(w.depth, 1u);
+  }
+  EXPECT_EQ(d.names.size(), 3u);  // the store is left as it is
+}
+
+}  // namespace
+}  // namespace tx
