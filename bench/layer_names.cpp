@@ -10,7 +10,7 @@ namespace {
 // splitmix64: small, fast, and the same sequence everywhere.
 class random_source {
  public:
-  explicit random_source(std::uint64_t seed) : state_(seed) {}
+  explicit random_source(std::uint64_t origin) : state_(origin) {}
   std::uint64_t next() noexcept {
     std::uint64_t z = (state_ += 0x9E3779B97F4A7C15u);
     z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9u;
@@ -86,8 +86,8 @@ void put_utf8(std::string& out, char32_t c) {
 
 }  // namespace
 
-std::vector<std::u16string> make_layer_names(std::size_t count, std::uint64_t seed) {
-  random_source random(seed);
+std::vector<std::u16string> make_layer_names(std::size_t count, std::uint64_t origin) {
+  random_source random(origin);
   std::vector<std::u16string> names;
   names.reserve(count);
   for (std::size_t i = 0; i < count; ++i) names.push_back(make_name(random));

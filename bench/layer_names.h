@@ -11,7 +11,7 @@
 
 namespace tx::bench {
 
-std::vector<std::u16string> make_layer_names(std::size_t count, std::uint64_t seed);
+std::vector<std::u16string> make_layer_names(std::size_t count, std::uint64_t origin);
 
 // The benchmark set: 1,000,000 names, made once.
 const std::vector<std::u16string>& layer_names();

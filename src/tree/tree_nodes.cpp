@@ -23,9 +23,11 @@ void prjrename_tree_scn::collect_checked(uuid_set& set) const {
     for (const auto& child : children) child->collect_checked(set);
     return;
   }
+  // Each group and its direct children alone: a child group's own children come with it, as
+  // it is in `groups` too, so every node is visited once whatever the depth.
   for (const prjrename_tree_lr_group* group : groups) {
     group->prjrename_tree_item::collect_checked(set);
-    for (const auto& child : group->children) child->collect_checked(set);
+    for (const auto& child : group->children) child->prjrename_tree_item::collect_checked(set);
   }
 }
 
