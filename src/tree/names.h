@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -20,8 +21,9 @@
 namespace tx {
 
 struct prjrename_name {
-  std::u16string old_name;  // the host's caption when the entry was created; never updated
-  std::u16string new_name;  // the pending name; may be empty
+  std::u16string old_name;    // the host's caption when the entry was created; never updated
+  std::u16string new_name;    // the pending name; may be empty
+  std::uint64_t touched = 0;  // the serial of the latest applied step that changed the entry
 };
 
 struct prjrename_change {
@@ -29,10 +31,12 @@ struct prjrename_change {
   std::u16string before;  // the new name before the step (for a new entry: the host caption)
   std::u16string after;   // the new name after the step
   bool inserted;          // the step created the entry
+  std::uint64_t previously_touched = 0;  // the entry's `touched` before the step
 };
 
 struct prjrename_step {
   std::vector<prjrename_change> changes;  // in processing order, at most one per uuid
+  std::uint64_t serial = 0;               // unique in the store, never reused
 };
 
 class prjrename_names {
@@ -62,7 +66,9 @@ class prjrename_names {
   const prjrename_name* find(tx_uuid uuid) const;
   const entry_map& entries() const noexcept { return entries_; }
   std::size_t size() const noexcept { return entries_.size(); }
-  // Whether the latest applied step (the undo stack's top) changed `uuid`. Constant time.
+  // Whether the latest applied step (the undo stack's top) changed `uuid`. Constant time: each
+  // entry remembers the serial of the latest applied step that changed it, kept up to date by
+  // push, undo and redo in time proportional to the step alone.
   bool changed_last(tx_uuid uuid) const;
   const std::vector<std::unique_ptr<prjrename_step>>& undo_steps() const noexcept { return undo_; }
   const std::vector<std::unique_ptr<prjrename_step>>& redo_steps() const noexcept { return redo_; }
@@ -74,13 +80,11 @@ class prjrename_names {
   template <class Run>
   bool apply_step(const uuid_set& elements, Run&& run);
   void push(std::unique_ptr<prjrename_step> step);
-  // Rebuilds the set of uuids of the undo stack's top step.
-  void index_top();
 
   entry_map entries_;
   std::vector<std::unique_ptr<prjrename_step>> undo_;
   std::vector<std::unique_ptr<prjrename_step>> redo_;
-  uuid_set top_;
+  std::uint64_t last_serial_ = 0;
 };
 
 }  // namespace tx

@@ -138,6 +138,24 @@ TEST(NameStore, RefreshMarksTheLatestStepsElementsOnly) {
   EXPECT_FALSE(roads.is_new_name_valid());
 }
 
+TEST(NameStore, TheLatestStepMarkFollowsUndoAndRedoThroughOverlappingSteps) {
+  store s;
+  ASSERT_TRUE(s.loaded);
+  s.append(u"1", {2, 3});
+  s.names.set_name(test::uuid(3), u"Hand");
+  auto marks = [&] {
+    return std::pair{s.names.changed_last(test::uuid(2)), s.names.changed_last(test::uuid(3))};
+  };
+  EXPECT_EQ(marks(), (std::pair{false, true}));
+  s.names.undo();  // back to the step that changed both
+  EXPECT_EQ(marks(), (std::pair{true, true}));
+  s.names.redo();
+  EXPECT_EQ(marks(), (std::pair{false, true}));
+  s.names.undo();
+  s.names.undo();
+  EXPECT_EQ(marks(), (std::pair{false, false}));
+}
+
 TEST(NameStore, ListenersMayDisconnectOthersWhileTheSignalRuns) {
   store s;
   ASSERT_TRUE(s.loaded);
