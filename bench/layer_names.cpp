@@ -4,6 +4,8 @@
 #include <ostream>
 #include <string_view>
 
+#include "tx_host/services/utf.h"
+
 namespace tx::bench {
 namespace {
 
@@ -66,24 +68,6 @@ std::u16string make_name(random_source& random) {
   return name;
 }
 
-void put_utf8(std::string& out, char32_t c) {
-  if (c < 0x80) {
-    out += static_cast<char>(c);
-  } else if (c < 0x800) {
-    out += static_cast<char>(0xC0 | (c >> 6));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  } else if (c < 0x10000) {
-    out += static_cast<char>(0xE0 | (c >> 12));
-    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  } else {
-    out += static_cast<char>(0xF0 | (c >> 18));
-    out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  }
-}
-
 }  // namespace
 
 std::vector<std::u16string> make_layer_names(std::size_t count, std::uint64_t origin) {
@@ -100,20 +84,7 @@ const std::vector<std::u16string>& layer_names() {
 }
 
 void write_utf8_lines(std::ostream& out, const std::vector<std::u16string>& names) {
-  std::string line;
-  for (const std::u16string& name : names) {
-    line.clear();
-    for (std::size_t i = 0; i < name.size(); ++i) {
-      char32_t c = name[i];
-      if (c >= 0xD800 && c <= 0xDBFF && i + 1 < name.size() && name[i + 1] >= 0xDC00 &&
-          name[i + 1] <= 0xDFFF) {
-        c = 0x10000 + ((c - 0xD800) << 10) + (name[++i] - 0xDC00);
-      }
-      put_utf8(line, c);
-    }
-    line += '\n';
-    out.write(line.data(), static_cast<std::streamsize>(line.size()));
-  }
+  for (const std::u16string& name : names) out << host::to_utf8(name) << '\n';
 }
 
 }  // namespace tx::bench

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string_view>
 
-#include "allocation_counter.h"
+#include "heap_counter.h"
 #include "layer_names.h"
 #include "platform/platform.h"
 #include "rename/case_change_rule.h"

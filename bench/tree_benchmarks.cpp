@@ -7,10 +7,10 @@
 #include <chrono>
 #include <vector>
 
+#include "heap_counter.h"
 #include "tree/build.h"
 #include "tree/commit.h"
 #include "tree/execute.h"
-#include "tree_heap_bytes.h"
 #include "tree_session.h"
 #include "tx/host/txk_prj.h"
 #include "tx_host/msgs.h"

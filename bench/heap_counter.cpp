@@ -1,4 +1,4 @@
-#include "tree_heap_bytes.h"
+#include "heap_counter.h"
 
 #include <malloc.h>
 
@@ -8,6 +8,7 @@
 
 namespace {
 
+std::atomic<std::size_t> allocations{0};
 std::atomic<std::size_t> live{0};
 std::atomic<std::size_t> peak{0};
 
@@ -20,6 +21,7 @@ void count_allocated(void* memory) noexcept {
 }
 
 void* allocate(std::size_t size, std::size_t alignment) noexcept {
+  allocations.fetch_add(1, std::memory_order_relaxed);
   if (size == 0) size = 1;
   void* memory =
       alignment <= alignof(std::max_align_t)
@@ -46,6 +48,8 @@ constexpr std::size_t plain = alignof(std::max_align_t);
 }  // namespace
 
 namespace tx::bench {
+
+std::size_t allocation_count() noexcept { return allocations.load(std::memory_order_relaxed); }
 
 std::size_t live_heap_bytes() noexcept { return live.load(std::memory_order_relaxed); }
 
