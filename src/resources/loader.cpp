@@ -23,12 +23,8 @@ void visit_text(custom_pointer visitor, const char16_t* text) noexcept {
 }
 
 // Keeps the text it is given.
-class text_receiver final : public string_visitor_impl {
+class text_receiver final : public single_interface<string_visitor_impl> {
  public:
-  int query(const char* name, const void** table, void** object) noexcept override {
-    return match<string_visitor_impl>(this, name, table, object);
-  }
-  custom_pointer root() noexcept override { return root_of(this); }
   void visit(const char16_t* text) override { text_ = text != nullptr ? text : u""; }
 
   std::u16string& text() noexcept { return text_; }
@@ -105,7 +101,7 @@ bool load_masked_bitmap(std::int32_t reference, custom_pointer visitor) noexcept
 
 std::optional<std::u16string> string(std::int32_t reference) {
   text_receiver receiver;
-  if (!load_string(reference, pointer_to<string_visitor_impl>(&receiver))) return std::nullopt;
+  if (!load_string(reference, receiver.pointer())) return std::nullopt;
   return std::move(receiver.text());
 }
 
