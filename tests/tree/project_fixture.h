@@ -70,7 +70,10 @@ struct project_fixture {
   std::unique_ptr<prjrename_tree_group> root;
 
   explicit project_fixture(const std::string& json) {
-    const std::string path = testing::TempDir() + "tree_project.json";
+    // One file per test: ctest runs the cases of this program in parallel processes.
+    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+    const std::string path =
+        testing::TempDir() + "tree_" + test->test_suite_name() + "_" + test->name() + ".json";
     std::ofstream(path, std::ios::binary) << json;
     loaded = tx_host_project_load(path.c_str());
     if (!loaded) ADD_FAILURE() << tx_host_project_error();
