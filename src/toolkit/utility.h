@@ -12,6 +12,15 @@
 namespace tx::toolkit {
 
 template <class W, auto Id, int Help>
+class utility;
+
+// Runs the dialog of `command`: builds W inside a docker frame, shows it modally through the
+// host with a button box, and destroys everything when it closes (see utility_run.h, included
+// where W is complete).
+template <class W, auto Id, int Help>
+void run_utility(utility<W, Id, Help>& command);
+
+template <class W, auto Id, int Help>
 class utility final : public single_interface<utility_impl> {
  public:
   // Called with the content before the dialog is shown.
@@ -30,13 +39,13 @@ class utility final : public single_interface<utility_impl> {
   }
   void set_host_handle(std::uint64_t handle) override { host_handle_ = handle; }
   bool is_available() override { return !available_ || available_(host_handle_); }
-  // Showing the dialog comes with the dialog itself; until then the command does nothing.
-  void run() override {}
+  void run() override { run_utility(*this); }
   void reserved() override {}
   void set_host_reference(custom_pointer reference) override { host_reference_ = reference; }
 
   void set_initializer(initializer init) { initializer_ = std::move(init); }
   void set_availability(availability check) { available_ = std::move(check); }
+  const initializer& initializer_callback() const noexcept { return initializer_; }
 
   std::uint64_t host_handle() const noexcept { return host_handle_; }
   custom_pointer host_reference() const noexcept { return host_reference_; }
