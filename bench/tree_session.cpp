@@ -51,9 +51,9 @@ void tree_session::make_ready() {
 
 void tree_session::write_names(bool new_names) {
   if (!names) return;
-  for (const auto& [uuid, name] : names->entries()) {
-    if (tx_entity* entity = tx_entity_storage_find_by_uid(uuid)) {
-      tx_entity_set_wcaption(entity, (new_names ? name.new_name : name.old_name).c_str());
+  for (const prjrename_name& entry : names->entries()) {
+    if (tx_entity* entity = tx_entity_storage_find_by_uid(entry.uuid)) {
+      tx_entity_set_wcaption(entity, (new_names ? entry.new_name : entry.old_name).c_str());
     }
   }
 }

@@ -63,6 +63,8 @@ bool check_column::checked(custom_pointer row) {
   return node != nullptr && node->is_checked();
 }
 
+bool check_column::enabled(custom_pointer row) { return node_of(row) != nullptr; }
+
 void check_column::check(custom_pointer row, bool on) {
   prjrename_tree_item* node = node_of(row);
   if (node == nullptr) return;

@@ -50,6 +50,8 @@ class check_column final : public toolkit::outline_checks {
   explicit check_column(project_rename_widget& context) noexcept : context_(&context) {}
 
   bool checked(custom_pointer row) override;
+  // A row without a node has no box the user may change.
+  bool enabled(custom_pointer row) override;
 
  protected:
   void check(custom_pointer row, bool checked) override;

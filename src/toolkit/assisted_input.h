@@ -36,8 +36,10 @@ class assisted_input : public detail::control_base<assisted_input_impl> {
   explicit assisted_input(std::int32_t caption = 0) : control_base(caption) {}
 
   void text(custom_pointer visitor) override;
-  // The user typed or picked a text.
-  void set_text(const char16_t* text) override { take(text_, std::u16string(text ? text : u"")); }
+  // The user typed or picked a text; a null text is no text at all and changes nothing.
+  void set_text(const char16_t* text) override {
+    if (text != nullptr) take(text_, std::u16string(text));
+  }
   std::int32_t history_count() override { return static_cast<std::int32_t>(history_.size()); }
   bool history_item(std::int32_t index, custom_pointer visitor) override;
 

@@ -30,8 +30,8 @@ bool commit_names(const prjrename_names& names, tx_prj* project) {
     show_warning(warning_no_new_names);
     return false;
   }
-  for (const auto& [uuid, name] : names.entries()) {
-    if (name.new_name.empty()) {
+  for (const prjrename_name& entry : names.entries()) {
+    if (entry.new_name.empty()) {
       show_warning(warning_empty_name);
       return false;
     }
@@ -42,11 +42,11 @@ bool commit_names(const prjrename_names& names, tx_prj* project) {
   if (bracket.begin != nullptr && whole != nullptr) bracket.begin(whole);
   const double n = static_cast<double>(names.size());
   double k = 1;
-  for (const auto& [uuid, name] : names.entries()) {
+  for (const prjrename_name& entry : names.entries()) {
     if (progress != nullptr) tx_progress_report(progress, k / n);
     k += 1;
-    if (tx_entity* entity = tx_entity_storage_find_by_uid(uuid)) {
-      tx_entity_set_wcaption(entity, name.new_name.c_str());
+    if (tx_entity* entity = tx_entity_storage_find_by_uid(entry.uuid)) {
+      tx_entity_set_wcaption(entity, entry.new_name.c_str());
     }
   }
   if (bracket.end != nullptr && whole != nullptr) bracket.end(whole);

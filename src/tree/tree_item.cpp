@@ -5,7 +5,7 @@
 namespace tx {
 
 void prjrename_tree_item::collect_checked(uuid_set& set) const {
-  if (!is_null(uuid) && checked && is_shown()) set.insert(uuid);
+  if (!is_null(uuid) && checked && is_shown()) set.push_back(uuid);
 }
 
 void prjrename_tree_item::get_new_name(const prjrename_sink& sink) const {
@@ -42,24 +42,14 @@ void prjrename_tree_item::set_check_selected(bool value) {
 
 void prjrename_tree_item::set_new_name(prjrename_names& names, const char16_t* text) const {
   if (is_null(uuid)) return;
-  names.set_name(uuid, std::u16string(text != nullptr ? text : u""));
+  names.set_name(uuid, text != nullptr ? text : u"");
 }
 
 void prjrename_tree_item::refresh(const prjrename_names& names) {
-  if (is_null(uuid)) {
-    new_name.clear();
-    has_new_name = false;
-    changed_last = false;
-    return;
-  }
-  if (const prjrename_name* entry = names.find(uuid)) {
-    new_name = entry->new_name;
-    has_new_name = true;
-  } else {
-    new_name.clear();
-    has_new_name = false;
-  }
-  changed_last = names.changed_last(uuid);
+  const prjrename_name* entry = is_null(uuid) ? nullptr : names.find(uuid);
+  new_name = entry != nullptr ? entry->new_name : prjrename_text();
+  has_new_name = entry != nullptr;
+  changed_last = entry != nullptr && names.changed_last(*entry);
 }
 
 void prjrename_tree_group::collect_checked(uuid_set& set) const {

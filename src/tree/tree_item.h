@@ -3,8 +3,10 @@
 // prjrename_tree_item is a leaf and the common base; prjrename_tree_group owns its children
 // (destroyed with it) and keeps the indices of the shown ones. A node carries the element's
 // uuid (null for the root and the collections, which are not renameable), its view state
-// (expanded, selected, checked) and a copy of its pending new name taken by `refresh` from the
-// name store. The old name is never cached: it is read from the host whenever the view asks.
+// (expanded, selected, checked) and its pending new name as `refresh` found it in the name
+// store: a handle to the store's own text, which never changes or moves while the store lives
+// (and the store outlives every tree built under it), so a refresh allocates nothing. The old
+// name is never cached: it is read from the host whenever the view asks.
 // Actions reach the tree through the root and travel down: set_expanded and set_check apply to
 // a selected group's whole subtree, and otherwise only pass the call down; set_check_selected
 // lets every node decide by its own `selected` flag.
@@ -13,9 +15,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <string>
 #include <vector>
 
+#include "tree/text_arena.h"
 #include "tree/uuid.h"
 
 namespace tx {
@@ -37,8 +39,8 @@ class prjrename_tree_item {
   prjrename_tree_item& operator=(const prjrename_tree_item&) = delete;
   virtual ~prjrename_tree_item() = default;
 
-  // Adds this node's uuid to `set` when it is renameable, ticked and shown; a group then asks
-  // its children.
+  // Appends this node's uuid to `set` when it is renameable, ticked and shown; a group then
+  // asks its children.
   virtual void collect_checked(uuid_set& set) const;
   virtual std::size_t visible_child_count() const { return 0; }
   virtual prjrename_tree_item* visible_child(std::size_t) const { return nullptr; }
@@ -54,7 +56,7 @@ class prjrename_tree_item {
   // Asks the name store to make `text` the element's new name (one undoable step).
   virtual void set_new_name(prjrename_names& names, const char16_t* text) const;
   virtual void rebuild_visible() {}
-  // Copies this node's pending name and latest-step mark from the name store.
+  // Takes this node's pending name and latest-step mark from the name store.
   virtual void refresh(const prjrename_names& names);
 
   bool is_expanded() const noexcept { return expanded; }
@@ -67,9 +69,10 @@ class prjrename_tree_item {
   // False when the element has a pending name that is empty (the view marks the row faulty).
   bool is_new_name_valid() const noexcept { return !has_new_name || !new_name.empty(); }
 
+  // The five flags share one word after the handles: a leaf takes 32 bytes, a layer node 88.
   tx_uuid uuid = null_uuid;
+  prjrename_text new_name;  // the store's text; empty when there is no entry
   bool has_new_name = false;
-  std::u16string new_name;
   bool expanded = true;
   bool selected = false;
   bool checked = false;

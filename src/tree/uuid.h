@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstddef>
-#include <unordered_set>
+#include <vector>
 
 #include "tx/host/txk_entity.h"
 
@@ -19,7 +19,10 @@ struct uuid_equal {
 inline constexpr tx_uuid null_uuid{0};
 inline bool is_null(tx_uuid uuid) noexcept { return tx_uuid_equal(uuid, null_uuid); }
 
-// The ticked renameable elements, collected from the tree.
-using uuid_set = std::unordered_set<tx_uuid, uuid_hash, uuid_equal>;
+// The ticked renameable elements, collected from the tree in its order. Every element is one
+// node of the tree, so a uuid comes once, except where a scene collects through its group list
+// (a nested group is then reached twice); the name store processes a uuid at most once per
+// step either way, so the list behaves as a set.
+using uuid_set = std::vector<tx_uuid>;
 
 }  // namespace tx

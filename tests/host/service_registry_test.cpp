@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "test_doubles.h"
+#include "plugin_doubles.h"
 #include "tx/services.h"
 #include "tx/visitors.h"
 #include "tx_host/services/string_collector.h"
@@ -10,10 +10,10 @@
 namespace tx::host {
 namespace {
 
-using testing::client_double;
-using testing::localizer_visitor_double;
-using testing::registry_visitor_double;
-using testing::service_double;
+// The registry's answers: (key, service).
+struct registry_visitor : test::named_sink {
+  tx_custom_pointer pair() { return as<tx_service_registry_visitor_interface_0>(); }
+};
 
 // Asks the registry through its table, as a plug-in does.
 void ask(service_registry& registry, const char16_t* key, tx_custom_pointer visitor) {
@@ -29,71 +29,70 @@ TEST(ServiceRegistry, AnswersItsInterfaceOnly) {
 
 TEST(ServiceRegistry, LocalizerKeyAnswersOnlyWhileSwitchedOn) {
   service_registry registry;
-  registry_visitor_double visitor;
+  registry_visitor visitor;
   ask(registry, TX_LOCALIZER_NAMESPACE_KEY, visitor.pair());
-  EXPECT_TRUE(visitor.visits.empty()) << "off at construction";
+  EXPECT_TRUE(visitor.entries.empty()) << "off at construction";
 
   registry.set_localizer_enabled(true);
   ask(registry, TX_LOCALIZER_NAMESPACE_KEY, visitor.pair());
-  ASSERT_EQ(visitor.visits.size(), 1u);
-  EXPECT_EQ(visitor.visits[0].key, TX_LOCALIZER_NAMESPACE_KEY);
-  EXPECT_TRUE(present(query(visitor.visits[0].service, TX_LOCALIZER_SERVICE_INTERFACE_1)));
+  ASSERT_EQ(visitor.entries.size(), 1u);
+  EXPECT_EQ(visitor.entries[0].first, TX_LOCALIZER_NAMESPACE_KEY);
+  EXPECT_TRUE(present(query(visitor.entries[0].second, TX_LOCALIZER_SERVICE_INTERFACE_1)));
 
   registry.set_localizer_enabled(false);
   ask(registry, TX_LOCALIZER_NAMESPACE_KEY, visitor.pair());
-  EXPECT_EQ(visitor.visits.size(), 1u);
+  EXPECT_EQ(visitor.entries.size(), 1u);
   EXPECT_EQ(registry.requested_keys(),
             (std::vector<std::u16string>(3, TX_LOCALIZER_NAMESPACE_KEY)));
 }
 
 TEST(ServiceRegistry, FiledServicesAreFoundByExactKey) {
   service_registry registry;
-  service_double service;
+  test::plugin_service service;
   registry.set_service(u"tx.test/a", service.utility_pair());
-  registry_visitor_double visitor;
+  registry_visitor visitor;
 
   ask(registry, u"tx.test/a", visitor.pair());
   ask(registry, u"tx.test/A", visitor.pair());
   ask(registry, u"tx.test/", visitor.pair());
   ask(registry, TX_UTILITY_NAMESPACE_KEY, visitor.pair());
-  ASSERT_EQ(visitor.visits.size(), 1u);
-  EXPECT_EQ(visitor.visits[0].key, u"tx.test/a");
-  EXPECT_TRUE(same(visitor.visits[0].service, service.utility_pair()));
+  ASSERT_EQ(visitor.entries.size(), 1u);
+  EXPECT_EQ(visitor.entries[0].first, u"tx.test/a");
+  EXPECT_TRUE(same(visitor.entries[0].second, service.utility_pair()));
 
   registry.set_service(u"tx.test/a", {});
   ask(registry, u"tx.test/a", visitor.pair());
-  EXPECT_EQ(visitor.visits.size(), 1u) << "a null pair removes the key";
+  EXPECT_EQ(visitor.entries.size(), 1u) << "a null pair removes the key";
 }
 
 TEST(ServiceRegistry, NullVisitorOrKeyVisitsNothing) {
   service_registry registry;
   registry.set_localizer_enabled(true);
-  registry_visitor_double visitor;
+  registry_visitor visitor;
   ask(registry, TX_LOCALIZER_NAMESPACE_KEY, {});
   ask(registry, TX_LOCALIZER_NAMESPACE_KEY, {visitor.pair().table, nullptr});
   ask(registry, nullptr, visitor.pair());
-  EXPECT_TRUE(visitor.visits.empty());
+  EXPECT_TRUE(visitor.entries.empty());
 }
 
 TEST(LocalizerService, HandsTheLocalizerAndRecordsTheClientModule) {
   service_registry registry;
   registry.set_localizer_enabled(true);
-  registry_visitor_double found;
+  registry_visitor found;
   ask(registry, TX_LOCALIZER_NAMESPACE_KEY, found.pair());
-  ASSERT_EQ(found.visits.size(), 1u);
-  const tx_custom_pointer service = found.visits[0].service;
-  client_double client(u"txk_project_rename");
-  localizer_visitor_double visitor;
-
-  call(service, &tx_localizer_service_interface_1::visit_localizer, client.pair(), visitor.pair());
-  call(service, &tx_localizer_service_interface_1::visit_localizer, tx_custom_pointer{},
-       visitor.pair());
-  call(service, &tx_localizer_service_interface_1::visit_localizer, client.pair(),
-       tx_custom_pointer{});
-
-  ASSERT_EQ(visitor.localizers.size(), 2u);
-  EXPECT_TRUE(same(visitor.localizers[0], registry.localizer().pair()));
-  EXPECT_TRUE(same(visitor.localizers[1], registry.localizer().pair()));
+  ASSERT_EQ(found.entries.size(), 1u);
+  const tx_custom_pointer service = found.entries[0].second;
+  test::localizer_client client{{}, u"txk_project_rename"};
+  test::pair_sink visitor;
+  const tx_custom_pointer pair = visitor.as<tx_localizer_service_visitor_interface_1>();
+  for (const auto& [c, v] :
+       {std::pair{client.pointer(), pair}, std::pair{tx_custom_pointer{}, pair},
+        std::pair{client.pointer(), tx_custom_pointer{}}}) {
+    call(service, &tx_localizer_service_interface_1::visit_localizer, c, v);
+  }
+  ASSERT_EQ(visitor.pairs.size(), 2u);
+  EXPECT_TRUE(same(visitor.pairs[0], registry.localizer().pair()));
+  EXPECT_TRUE(same(visitor.pairs[1], registry.localizer().pair()));
   EXPECT_EQ(registry.localizer_entry().clients(),
             (std::vector<std::u16string>{u"txk_project_rename", u"", u"txk_project_rename"}));
 }

@@ -8,12 +8,6 @@
 namespace tx::platform {
 namespace {
 
-TEST(Modules, OwnModuleHoldsThePluginStrings) {
-  const module own = own_module();
-  ASSERT_TRUE(own);
-  EXPECT_EQ(stored_string(own, 10), std::u16string_view(u"Переименование элементов проекта\0", 33));
-}
-
 TEST(Modules, BasicLibraryFoundByItsWindowsName) {
   // This program imports txk_basic, so it is loaded; it starts in Russian.
   EXPECT_EQ(tx_res_get_lng(), 0);

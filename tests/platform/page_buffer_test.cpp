@@ -1,34 +1,14 @@
-// What the backend answers for images it cannot read, and the page-granular pixel memory. What it
-// reads is compared with the files through the loaders (tests/resources), in both builds.
+// The page-granular pixel memory. What the backend reads, and what it answers for images it
+// cannot read, is checked through the loaders (tests/resources), in both builds.
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <utility>
 
 #include "platform/platform.h"
-#include "tx/host/txk_basic.h"
 
 namespace tx::platform {
 namespace {
-
-TEST(BitmapLoading, MissingBitmapsGiveNothing) {
-  EXPECT_FALSE(load_bitmap(own_module(), 102));  // a string, not a bitmap
-  EXPECT_FALSE(load_bitmap(own_module(), 0));
-  EXPECT_FALSE(load_bitmap(own_module(), 70000));
-  EXPECT_FALSE(load_bitmap(find_module(TX_BASIC_MODULE_NAME), 100));
-  // An icon is not a bitmap.
-  EXPECT_FALSE(load_bitmap(find_module(TX_BASIC_MODULE_NAME), 1));
-}
-
-TEST(IconLoading, MissingIconsLoadNothing) {
-  for (const std::uint32_t id : {0u, 3u, 118u, 70000u}) {
-    SCOPED_TRACE(id);
-    const icon_planes planes = load_icon(find_module(TX_BASIC_MODULE_NAME), id);
-    EXPECT_FALSE(planes.loaded);
-    EXPECT_EQ(planes.width, 0);
-    EXPECT_EQ(planes.buffer, nullptr);
-  }
-}
 
 TEST(PageBuffer, HoldsZeroedPagesAndMovesOwnership) {
   page_buffer buffer(10000);

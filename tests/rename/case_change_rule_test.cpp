@@ -36,10 +36,6 @@ const case_row case_rows[] = {
     {"unchanged", unchanged, u"My Layer", u"My Layer"},
     {"unknown mode", 9, u"My Layer", u"My Layer"},
     {"negative mode", -1, u"My Layer", u"My Layer"},
-    {"empty lower", lower, u"", u""},
-    {"empty upper", upper, u"", u""},
-    {"empty first letter", first_letter, u"", u""},
-    {"empty unchanged", unchanged, u"", u""},
 };
 
 TEST(CaseChange, Table) {

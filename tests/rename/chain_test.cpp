@@ -84,38 +84,30 @@ TEST(Chain, EachOperationWorksOnThePreviousOutput) {
   EXPECT_EQ(cut->seen, std::vector<std::u16string>{u"Main street.tab_v2"});
 }
 
-TEST(Chain, OrderDecides) {
+TEST(Chain, OrderDecidesAndTheFlagTellsWhetherAnyOperationChangedTheName) {
   auto insert = insert_step(u"New ", insert_mode::begin);
   auto lower = case_step(case_mode::lower);
-  const std::vector<operation*> insert_first{insert.get(), lower.get()};
-  const std::vector<operation*> lower_first{lower.get(), insert.get()};
-  EXPECT_EQ(chain(insert_first, u"ROADS").name, u"new roads");
-  EXPECT_EQ(chain(lower_first, u"ROADS").name, u"New roads");
-}
-
-TEST(Chain, NothingChangedKeepsTheName) {
-  auto replace = replace_road();
-  auto lower = case_step(case_mode::lower);
-  const std::vector<operation*> active{replace.get(), lower.get()};
-  const chain_result out = chain(active, u"river");
-  EXPECT_EQ(out.name, u"river");
-  EXPECT_FALSE(out.changed);
-
-  const std::vector<operation*> none;
-  const chain_result empty_chain = chain(none, u"Main ROAD");
-  EXPECT_EQ(empty_chain.name, u"Main ROAD");
-  EXPECT_FALSE(empty_chain.changed);
-}
-
-// A change undone by a later operation still counts as a change: the flag says whether any
-// operation changed the name, not whether the end differs from the start.
-TEST(Chain, FlagTellsAnyOperationChanged) {
   auto upper = case_step(case_mode::upper);
-  auto lower = case_step(case_mode::lower);
-  const std::vector<operation*> active{upper.get(), lower.get()};
-  const chain_result out = chain(active, u"river");
-  EXPECT_EQ(out.name, u"river");
-  EXPECT_TRUE(out.changed);
+  auto replace = replace_road();
+  struct chain_case {
+    std::vector<operation*> active;
+    const char16_t* name;
+    const char16_t* expected;
+    bool changed;
+  };
+  const chain_case cases[] = {
+      {{insert.get(), lower.get()}, u"ROADS", u"new roads", true},
+      {{lower.get(), insert.get()}, u"ROADS", u"New roads", true},
+      {{replace.get(), lower.get()}, u"river", u"river", false},
+      {{}, u"Main ROAD", u"Main ROAD", false},
+      // A change undone by a later operation still counts.
+      {{upper.get(), lower.get()}, u"river", u"river", true},
+  };
+  for (const chain_case& c : cases) {
+    const chain_result out = chain(c.active, c.name);
+    EXPECT_EQ(out.name, c.expected) << c.active.size();
+    EXPECT_EQ(out.changed, c.changed) << c.active.size();
+  }
 }
 
 TEST(Chain, AcceptsOwningPointersReferencesAndObjects) {

@@ -1,5 +1,5 @@
 // Erase: N units from either side, everything to or after a character sequence, the extension,
-// and the kinds and settings that change nothing.
+// and the kinds and settings that change nothing. Empty and hostile names: hostile_input_test.
 #include "rename/erase_rule.h"
 
 #include <gtest/gtest.h>
@@ -77,15 +77,6 @@ TEST(Erase, Table) {
     const bool changed = erase(row.input, settings, testing::plugin_separators(), result);
     EXPECT_EQ(result, row.expected);
     EXPECT_EQ(changed, row.expected != row.input);
-  }
-}
-
-TEST(Erase, EmptyNameStaysEmptyForEveryKind) {
-  std::u16string result = u"left over";
-  for (const int kind : {none, n_chars, to, after, extension, unchanged}) {
-    const erase_settings settings{static_cast<erase_kind>(kind), 3, erase_side::end, u"_"};
-    EXPECT_FALSE(erase(u"", settings, testing::plugin_separators(), result)) << kind;
-    EXPECT_EQ(result, u"") << kind;
   }
 }
 

@@ -38,14 +38,6 @@ TEST(Insert, Table) {
   }
 }
 
-TEST(Insert, TwiceAddsTheTextTwice) {
-  const insert_settings settings{u"_v", insert_mode::end};
-  std::u16string once, twice;
-  ASSERT_TRUE(insert_text(u"map", settings, once));
-  ASSERT_TRUE(insert_text(once, settings, twice));
-  EXPECT_EQ(twice, u"map_v_v");
-}
-
 TEST(Insert, IdleExactlyWhenTextIsEmpty) {
   EXPECT_TRUE(is_idle(insert_settings{u"", insert_mode::end}));
   EXPECT_FALSE(is_idle(insert_settings{u"x", insert_mode::begin}));

@@ -5,7 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "host_doubles.h"
+#include "guards.h"
+#include "host_services.h"
 #include "resources/loader.h"
 
 namespace tx::resource {
@@ -16,7 +17,7 @@ using test::fake_localizer;
 using test::language_guard;
 using test::localizer_guard;
 using test::russian;
-using test::string_recorder;
+using string_recorder = test::string_sink;
 
 const std::u16string notice_ru = u"Общие ресурсы Тарвекс. Ёж, ёлка!";
 const std::u16string notice_en = u"Tarvex shared resources.";

@@ -1,6 +1,7 @@
 // The toolkit's own rules: layouts, controls, histories, change notifications and events.
 #include <gtest/gtest.h>
 
+#include "host_doubles.h"
 #include "toolkit/assisted_input.h"
 #include "toolkit/checkbox.h"
 #include "toolkit/dropdown.h"
@@ -11,22 +12,18 @@
 #include "toolkit/numeric_input.h"
 #include "toolkit/stack_layout.h"
 #include "tx_host/basic.h"
-#include "view_double.h"
 
 namespace tx::toolkit {
 namespace {
 
-template <class Table>
-const Table& table_of_pair(custom_pointer cp) {
-  return *static_cast<const Table*>(cp.table);
-}
+using test::ops;
 
 TEST(GridLayout, TwoByOneReportsItsShapeWhateverTheCells) {
   grid_layout<2, 1> grid;
   label only(10);
   grid.set_cell(1, only.pointer());
   const custom_pointer g = grid.pointer();
-  const auto& t = table_of_pair<tx_grid_layout_interface_91>(g);
+  const auto& t = ops<tx_grid_layout_interface_91>(g);
   EXPECT_EQ(t.row_count(g.object), 2);
   EXPECT_EQ(t.column_count(g.object), 1);
   test::element_sink sink;
@@ -77,7 +74,7 @@ TEST(Groupbox, CaptionFromTheStringTableAndZeroIsAbsent) {
   tx_host_set_lng(50000);
   groupbox<1, 1> box(125);
   const custom_pointer b = box.pointer();
-  const auto& t = table_of_pair<tx_groupbox_interface_92>(b);
+  const auto& t = ops<tx_groupbox_interface_92>(b);
   test::string_sink texts;
   EXPECT_TRUE(t.caption(b.object, texts.pointer()));
   EXPECT_FALSE(t.second_text(b.object, texts.pointer()));  // reference 0: no visitor call
@@ -103,18 +100,6 @@ TEST(StackLayout, ShownChangeIsToldOnlyWhenItChanges) {
   EXPECT_EQ(stack.shown(), 2);
 }
 
-TEST(Controls, ANullViewNotifiesNobodyAndAPresentOneIsTold) {
-  checkbox box(153);
-  test::recording_view view;
-  box.set_view({view.pointer().table, nullptr});
-  box.check(true);
-  box.set_view(view.pointer());
-  EXPECT_TRUE(view.told.empty());
-  box.check(false);
-  box.check(false);
-  EXPECT_EQ(view.told, std::vector<std::uint32_t>{TX_CHANGED_VALUE});
-}
-
 TEST(Controls, TheUsersValueRaisesChangedButIsNotToldBack) {
   assisted_input input(151);
   test::recording_view view;
@@ -122,8 +107,8 @@ TEST(Controls, TheUsersValueRaisesChangedButIsNotToldBack) {
   int raised = 0;
   const auto connection = input.changed.connect([&] { ++raised; });
   const custom_pointer p = input.pointer();
-  table_of_pair<tx_assisted_input_interface_3>(p).set_text(p.object, u"road");
-  table_of_pair<tx_assisted_input_interface_3>(p).set_text(p.object, u"road");
+  ops<tx_assisted_input_interface_3>(p).set_text(p.object, u"road");
+  ops<tx_assisted_input_interface_3>(p).set_text(p.object, u"road");
   EXPECT_EQ(input.value(), u"road");
   EXPECT_EQ(raised, 1);
   EXPECT_TRUE(view.told.empty());
@@ -141,7 +126,7 @@ TEST(AssistedInput, RememberMovesAnEqualEntryToTheFront) {
   EXPECT_EQ(view.told.size(), 5u);
   test::string_sink item;
   const custom_pointer p = input.pointer();
-  const auto& t = table_of_pair<tx_assisted_input_interface_3>(p);
+  const auto& t = ops<tx_assisted_input_interface_3>(p);
   EXPECT_EQ(t.history_count(p.object), 4);
   EXPECT_TRUE(t.history_item(p.object, 2, item.pointer()));
   EXPECT_FALSE(t.history_item(p.object, 4, item.pointer()));
@@ -156,7 +141,7 @@ TEST(Dropdown, SelectionAndValues) {
   list.add_item(156, mode::zero);
   EXPECT_FALSE(list.value().has_value());
   const custom_pointer p = list.pointer();
-  const auto& t = table_of_pair<tx_dropdown_interface_3>(p);
+  const auto& t = ops<tx_dropdown_interface_3>(p);
   t.select(p.object, 1);
   EXPECT_EQ(list.value(), mode::zero);
   t.select(p.object, 2);  // outside the list: ignored
@@ -179,35 +164,11 @@ TEST(NumericInput, TheUsersValueIsKeptWithinTheBounds) {
   numeric_input<int> n(230);
   n.set_bounds(0, 100);
   const custom_pointer p = n.pointer();
-  const auto& t = table_of_pair<tx_integer_input_interface_6>(p);
+  const auto& t = ops<tx_integer_input_interface_6>(p);
   t.set_value(p.object, 250);
   EXPECT_EQ(t.value(p.object), 100);
   t.set_value(p.object, -3);
   EXPECT_EQ(n.current(), 0);
-}
-
-TEST(Elements, EachAnswersOnlyItsOwnInterface) {
-  label l;
-  checkbox c;
-  dropdown d;
-  grid_layout<1, 1> g;
-  struct row {
-    custom_pointer element;
-    const char* own;
-  };
-  const std::vector<const char*> all{TX_LABEL_INTERFACE_2, TX_CHECKBOX_INTERFACE_2,
-                                     TX_DROPDOWN_INTERFACE_3, TX_GRID_LAYOUT_INTERFACE_91};
-  for (const row& r :
-       {row{l.pointer(), TX_LABEL_INTERFACE_2}, row{c.pointer(), TX_CHECKBOX_INTERFACE_2},
-        row{d.pointer(), TX_DROPDOWN_INTERFACE_3}, row{g.pointer(), TX_GRID_LAYOUT_INTERFACE_91}}) {
-    for (const char* name : all) {
-      const custom_pointer found = query_interface(r.element, name);
-      EXPECT_EQ(present(found), std::string(name) == r.own) << r.own << " asked " << name;
-      if (present(found)) {
-        EXPECT_EQ(found.table, r.element.table);
-      }
-    }
-  }
 }
 
 TEST(Event, ConnectionsMayEndBeforeOrAfterTheEvent) {

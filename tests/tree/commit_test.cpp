@@ -67,9 +67,9 @@ TEST(Execute, AppliesRemembersAndResets) {
   d.root->set_check(check_tick, false);
   EXPECT_TRUE(execute_operations(d.operations, *d.root, d.names));
   EXPECT_TRUE(test::warnings().empty());
-  EXPECT_EQ(d.names.find(test::uuid(2))->new_name, u"Boads");
-  EXPECT_EQ(d.names.find(test::uuid(3))->new_name, u"BiveBs");  // matching ignores case
-  EXPECT_EQ(d.names.find(test::uuid(1)), nullptr);              // "Map" has no r: no entry
+  EXPECT_EQ(d.names.find(test::uuid(2))->new_name.view(), u"Boads");
+  EXPECT_EQ(d.names.find(test::uuid(3))->new_name.view(), u"BiveBs");  // matching ignores case
+  EXPECT_EQ(d.names.find(test::uuid(1)), nullptr);                     // "Map" has no r: no entry
   EXPECT_TRUE(d.replace().search.value().empty());
   EXPECT_EQ(d.replace().search.history(), std::vector<std::u16string>{u"R"});
 }

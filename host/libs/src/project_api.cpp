@@ -51,9 +51,7 @@ TX_HOST_SIDE_EXPORT size_t tx_host_project_caption_write_count(void) {
 TX_HOST_SIDE_EXPORT bool tx_host_project_caption_write(size_t index, tx_host_caption_write* write) {
   const auto& writes = the_project().caption_writes();
   if (write == nullptr || index >= writes.size()) return false;
-  const tx::host::caption_write& recorded = writes[index];
-  *write = {recorded.uuid, recorded.old_caption.c_str(), recorded.new_caption.c_str(),
-            recorded.depth};
+  *write = writes[index];
   return true;
 }
 

@@ -1,8 +1,9 @@
-// txk_msgs: warnings go to stderr and into the record; progress indicators are recorded
-// objects whose reported fractions are kept in order.
+// txk_msgs: warnings go into the record and, unless the host switched the echo off, to stderr;
+// progress indicators are recorded objects whose reported fractions are kept in order.
 #include "tx_host/msgs.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <deque>
 #include <memory>
@@ -40,6 +41,8 @@ struct msgs_record {
   }
 };
 
+std::atomic<bool> echo{true};
+
 msgs_record& record() {
   static msgs_record instance;
   return instance;
@@ -53,9 +56,11 @@ void tx_show_wwarning(const char16_t* text) {
   if (text == nullptr) return;
   try {
     std::u16string copy(text);
-    const std::string line = "warning: " + tx::host::to_utf8(copy) + "\n";
-    std::fwrite(line.data(), 1, line.size(), stderr);
-    std::fflush(stderr);
+    if (echo.load(std::memory_order_relaxed)) {
+      const std::string line = "warning: " + tx::host::to_utf8(copy) + "\n";
+      std::fwrite(line.data(), 1, line.size(), stderr);
+      std::fflush(stderr);
+    }
     msgs_record& r = record();
     const std::lock_guard lock(r.mutex);
     r.warnings.push_back(std::move(copy));
@@ -128,6 +133,12 @@ TX_HOST_SIDE_EXPORT size_t tx_host_msgs_progress_destroyed(void) {
   const std::lock_guard lock(r.mutex);
   return r.destroyed;
 }
+
+TX_HOST_SIDE_EXPORT void tx_host_msgs_set_echo(bool on) {
+  echo.store(on, std::memory_order_relaxed);
+}
+
+TX_HOST_SIDE_EXPORT bool tx_host_msgs_echo(void) { return echo.load(std::memory_order_relaxed); }
 
 TX_HOST_SIDE_EXPORT void tx_host_msgs_clear(void) {
   msgs_record& r = record();

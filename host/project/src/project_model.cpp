@@ -131,9 +131,11 @@ bool project_model::remove(tx_uuid uuid) {
 }
 
 void project_model::set_caption(tx_entity& entity, std::u16string_view caption) {
-  std::u16string next(caption);
-  writes_.push_back(caption_write{entity.uuid, entity.caption, next, bracket_.depth()});
-  entity.caption = std::move(next);
+  // Room first (never less than the caption has, so `caption` may be part of it): once the
+  // write is recorded, taking the new caption cannot fail.
+  entity.caption.reserve(caption.size());
+  writes_.record(entity.uuid, entity.caption, caption, bracket_.depth());
+  entity.caption.assign(caption);
   bracket_.notify();
 }
 

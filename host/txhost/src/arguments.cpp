@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <string_view>
 
 namespace tx::host {
@@ -15,13 +16,37 @@ struct value_option {
   std::string_view name;
   std::string_view needs;
 };
-constexpr std::array<value_option, 3> value_options{{
+constexpr std::array<value_option, 5> value_options{{
     {"--list", "a PLUGIN"},
     {"--project", "a FILE"},
-    {"--lang", "ru or en"},
+    {"--lang", "ru, en or an offset"},
+    {"--plugin", "a PLUGIN"},
+    {"--script", "a FILE"},
 }};
 
+// The option's value field, for the options that keep a path.
+std::string& path_of(txhost_options& options, std::string_view option) {
+  if (option == "--list") return options.plugin;
+  if (option == "--project") return options.project;
+  if (option == "--plugin") return options.run_plugin;
+  return options.script;
+}
+
 parsed_arguments failure(std::string error) { return {std::nullopt, std::move(error)}; }
+
+// "ru", "en", or a language offset written in decimal digits (0 to 2147483647).
+std::optional<std::int32_t> language_of(std::string_view value) {
+  if (value == "ru") return kRussian;
+  if (value == "en") return kEnglish;
+  if (value.empty() ||
+      !std::all_of(value.begin(), value.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+    return std::nullopt;
+  }
+  std::int32_t offset = 0;
+  const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), offset);
+  if (error != std::errc() || end != value.data() + value.size()) return std::nullopt;
+  return offset;
+}
 
 }  // namespace
 
@@ -34,10 +59,23 @@ parsed_arguments parse_arguments(std::span<const std::string> arguments) {
       options.help = true;
       continue;
     }
+    if (argument == "--no-localizer" || argument == "--hostile") {
+      bool& flag = argument == "--hostile" ? options.hostile : options.no_localizer;
+      if (flag) return failure(argument + " given twice");
+      flag = true;
+      continue;
+    }
     const auto option =
         std::find_if(value_options.begin(), value_options.end(),
                      [&argument](const value_option& o) { return o.name == argument; });
-    if (option == value_options.end()) return failure("unexpected argument '" + argument + "'");
+    if (option == value_options.end()) {
+      // One word that is no option: the project the utility runs on.
+      if (argument.starts_with("-") || argument.empty() || !options.run_project.empty()) {
+        return failure("unexpected argument '" + argument + "'");
+      }
+      options.run_project = argument;
+      continue;
+    }
     bool& given = seen[static_cast<std::size_t>(option - value_options.begin())];
     if (given) return failure(argument + " given twice");
     given = true;
@@ -45,16 +83,32 @@ parsed_arguments parse_arguments(std::span<const std::string> arguments) {
     if (i + 1 == arguments.size() || arguments[i + 1].starts_with("--")) return failure(needs);
     const std::string& value = arguments[++i];
     if (argument == "--lang") {
-      if (value != "ru" && value != "en") {
-        return failure("unknown language '" + value + "' (ru or en)");
-      }
-      options.language_offset = value == "ru" ? kRussian : kEnglish;
+      const std::optional<std::int32_t> offset = language_of(value);
+      if (!offset) return failure("unknown language '" + value + "' (ru, en or an offset)");
+      options.language_offset = *offset;
       continue;
     }
     if (value.empty()) return failure(needs);
-    (argument == "--list" ? options.plugin : options.project) = value;
+    path_of(options, argument) = value;
   }
-  if (!options.help && options.plugin.empty() && options.project.empty()) {
+  const bool running = !options.run_project.empty() || !options.run_plugin.empty();
+  if (!options.run_project.empty() && options.run_plugin.empty()) {
+    return failure("unexpected argument '" + options.run_project + "'");
+  }
+  if (!options.run_plugin.empty() && options.run_project.empty()) {
+    return failure("--plugin PLUGIN needs a PROJECT to run on");
+  }
+  if (running && (!options.plugin.empty() || !options.project.empty())) {
+    return failure("PROJECT --plugin PLUGIN goes without --list and --project");
+  }
+  if (!options.script.empty() && !running) {
+    return failure("--script FILE goes with PROJECT --plugin PLUGIN");
+  }
+  if ((options.no_localizer || options.hostile) && !running) {
+    return failure(std::string(options.hostile ? "--hostile" : "--no-localizer") +
+                   " goes with PROJECT --plugin PLUGIN");
+  }
+  if (!options.help && !running && options.plugin.empty() && options.project.empty()) {
     return failure(arguments.empty() ? "nothing to do"
                                      : "--list PLUGIN or --project FILE is required");
   }
@@ -62,8 +116,10 @@ parsed_arguments parse_arguments(std::span<const std::string> arguments) {
 }
 
 const char* txhost_usage() noexcept {
-  return "Usage: txhost --list PLUGIN [--project FILE] [--lang ru|en]\n"
-         "       txhost --project FILE [--lang ru|en]\n"
+  return "Usage: txhost --list PLUGIN [--project FILE] [--lang ru|en|N]\n"
+         "       txhost --project FILE [--lang ru|en|N]\n"
+         "       txhost PROJECT --plugin PLUGIN [--script FILE] [--lang ru|en|N] [--no-localizer]\n"
+         "              [--hostile]\n"
          "       txhost --help\n"
          "\n"
          "Loads the Tarvex plug-in PLUGIN as the host application does and prints one line per\n"
@@ -73,13 +129,28 @@ const char* txhost_usage() noexcept {
          "holds them: collections, scenes, layer groups and layers, one a line, indented by\n"
          "level, with their uuids and captions.\n"
          "\n"
-         "  --list PLUGIN   the plug-in library to load\n"
-         "  --project FILE  the project file to open (docs/project-format.md)\n"
-         "  --lang ru|en    the interface language (default ru)\n"
-         "  --help          print this help\n"
+         "With PROJECT --plugin, opens and prints the project file PROJECT, loads PLUGIN and runs\n"
+         "its utility txk_project_rename. Its dialog is printed as text and driven by the\n"
+         "commands of the script FILE, or of standard input (docs/script-format.md); the script\n"
+         "may delete project elements while the dialog is shown and run the utility again after\n"
+         "it closed. When a dialog wrote new names into the project, PROJECT is saved and the\n"
+         "names are listed.\n"
          "\n"
-         "Exit status: 0 done, 1 the plug-in could not be loaded or the project file was\n"
-         "refused, 2 bad arguments.\n";
+         "  --list PLUGIN    the plug-in library to load\n"
+         "  --project FILE   the project file to open (docs/project-format.md)\n"
+         "  --plugin PLUGIN  the plug-in whose utility runs on PROJECT\n"
+         "  --script FILE    the commands that drive the dialog (default: standard input)\n"
+         "  --lang ru|en|N   the interface language (default ru), or the language offset N\n"
+         "                   itself (0 Russian, 50000 English; any other has no strings)\n"
+         "  --no-localizer   the service registry offers the plug-in no localizer\n"
+         "  --hostile        before each dialog is driven, hand each of its elements a null pair\n"
+         "                   wherever it takes a visitor, a row, a view or a host reference, and\n"
+         "                   a null text wherever it takes a text; the dialog must not change\n"
+         "  --help           print this help\n"
+         "\n"
+         "Exit status: 0 done, 1 the plug-in could not be loaded, the project file was refused\n"
+         "or could not be saved, 2 bad arguments, 3 the script is wrong or stopped with an\n"
+         "error (the project file is then left as it was).\n";
 }
 
 }  // namespace tx::host

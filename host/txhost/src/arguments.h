@@ -15,8 +15,19 @@ struct txhost_options {
   std::string plugin;
   // --project FILE: the project file (UTF-8) opened first and printed; empty: none.
   std::string project;
-  // --lang ru|en: the language offset set before loading (0 Russian, 50000 English).
+  // --lang ru|en|N: the language offset set before loading (0 Russian, 50000 English, or any
+  // other offset N from 0 to 2147483647, for which the plug-in may hold no strings).
   std::int32_t language_offset = 0;
+  // PROJECT --plugin PLUGIN: the project file (UTF-8) the plug-in's utility runs on and the
+  // plug-in file (UTF-8); both empty when the utility is not run.
+  std::string run_project;
+  std::string run_plugin;
+  // --script FILE: the script (UTF-8 path) that drives the dialog; empty: standard input.
+  std::string script;
+  // --no-localizer: the service registry offers the plug-in no localizer.
+  bool no_localizer = false;
+  // --hostile: every dialog is first handed null pairs and null texts wherever it takes them.
+  bool hostile = false;
 };
 
 struct parsed_arguments {

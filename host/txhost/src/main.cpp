@@ -12,8 +12,10 @@
 #include "tx_host/services/utf.h"
 
 int wmain(int argc, wchar_t** argv) {
-  // Binary mode: the UTF-8 bytes and line breaks go out exactly as written.
+  // Binary mode: the UTF-8 bytes and line breaks go out exactly as written, and commands come
+  // in as written.
   _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stdin), _O_BINARY);
   std::vector<std::string> arguments;
   for (int i = 1; i < argc; ++i) {
     const std::wstring_view wide(argv[i]);

@@ -15,9 +15,9 @@
 namespace tx::host {
 namespace {
 
-// A caption asked for as a plug-in asks: through a string adapter that fills our string. Quoted.
+// A caption asked for as a plug-in asks: through a string adapter that fills our string.
 template <typename Handle>
-std::string caption_of(Handle* handle, void (*get)(Handle*, tx_string_adp*)) {
+std::string caption_text(Handle* handle, void (*get)(Handle*, tx_string_adp*)) {
   std::u16string caption;
   tx_string_adp* adapter =
       tx_string_adp_create(&caption, [](void* target, const char16_t* text, size_t length) {
@@ -25,14 +25,66 @@ std::string caption_of(Handle* handle, void (*get)(Handle*, tx_string_adp*)) {
       });
   get(handle, adapter);
   tx_string_adp_destroy(adapter);
+  return to_utf8(caption);
+}
+
+// The same, quoted.
+template <typename Handle>
+std::string caption_of(Handle* handle, void (*get)(Handle*, tx_string_adp*)) {
   std::string quoted(1, '"');
-  quoted.append(to_utf8(caption)).push_back('"');
+  quoted.append(caption_text(handle, get)).push_back('"');
   return quoted;
 }
 
 std::string uuid_of(tx_entities* holder) {
   return uuid_to_text(tx_entity_get_uuid(tx_entities_safe_upcast(holder)));
 }
+
+// Goes through the scenes and layer groups of a project in the host's order.
+class element_walker {
+ public:
+  virtual ~element_walker() = default;
+
+  void walk(tx_prj* project) {
+    collection(tx_prj_get_scns_2d_ptr(project));
+    tx_scns_3d* const scenes_3d = tx_prj_get_scns_3d_ptr(project);
+    for (uint32_t i = 0; i < tx_scns_3d_get_size(scenes_3d); ++i)
+      scene(tx_scns_3d_get(scenes_3d, i));
+    collection(tx_prj_get_layouts_data_ptr(project));
+    for (int32_t i = 0; i < tx_prj_get_plugin_scns_2d_count(project); ++i) {
+      collection(tx_prj_get_plugin_scns_2d_ptr(project, i));
+    }
+  }
+
+ protected:
+  virtual void element(tx_entities* holder, std::string caption) = 0;
+
+ private:
+  void collection(tx_scns_2d* scenes) {
+    for (uint32_t i = 0; i < tx_scns_2d_get_size(scenes); ++i) scene(tx_scns_2d_get(scenes, i));
+  }
+  void scene(tx_scn* scene) {
+    element(tx_scn_safe_upcast(scene), caption_text(scene, &tx_scn_get_wcaption));
+    if (tx_lr_group* const root = tx_scn_get_lr_group_ptr(scene)) children(root);
+  }
+  void children(tx_lr_group* group) {
+    for (uint32_t i = 0; i < tx_lr_group_get_count_child(group); ++i) {
+      tx_lr_group* const child = tx_lr_group_get_child_by_index(group, i);
+      element(tx_lr_group_safe_upcast(child), caption_text(child, &tx_lr_group_get_wcaption));
+      children(child);
+    }
+  }
+};
+
+class element_list final : public element_walker {
+ public:
+  std::vector<project_element> elements;
+
+ private:
+  void element(tx_entities* holder, std::string caption) override {
+    elements.push_back({tx_entity_get_uuid(tx_entities_safe_upcast(holder)), std::move(caption)});
+  }
+};
 
 class tree_printer {
  public:
@@ -103,5 +155,11 @@ class tree_printer {
 }  // namespace
 
 std::string describe_project(tx_prj* project) { return tree_printer().print(project); }
+
+std::vector<project_element> project_elements(tx_prj* project) {
+  element_list list;
+  list.walk(project);
+  return std::move(list.elements);
+}
 
 }  // namespace tx::host

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "tx/host/handles.h"
 
@@ -18,5 +19,14 @@ namespace tx::host {
 // Collections come in the host's order (2D scenes, 3D scenes, layouts, then the plug-ins'),
 // children in the host's order whatever the invert-layers option says.
 std::string describe_project(tx_prj* project);
+
+// A scene, layer group or layer of the project: what the host's user can delete.
+struct project_element {
+  tx_uuid uuid{};
+  std::string caption;  // UTF-8
+};
+
+// Every scene, layer group and layer of `project`, in the order describe_project lists them.
+std::vector<project_element> project_elements(tx_prj* project);
 
 }  // namespace tx::host

@@ -4,6 +4,7 @@
 
 #include "arguments.h"
 #include "project_tree.h"
+#include "run_utility.h"
 #include "tx/host/txk_prj.h"
 #include "tx_host/basic.h"
 #include "tx_host/msgs.h"
@@ -38,11 +39,7 @@ int list_utilities(const txhost_options& options, std::FILE* out, std::FILE* err
   service_registry registry;  // outlives the loader: the plug-in keeps what it was handed
   plugin_loader loader(registry);
   if (!loader.load(options.plugin)) {
-    if (loader.error() == load_error::not_a_plugin) {
-      print(err, "txhost: " + options.plugin + " is " + loader.error_message() + "\n");
-    } else {
-      print(err, "txhost: cannot load " + options.plugin + ": " + loader.error_message() + "\n");
-    }
+    report_load_failure(loader, options.plugin, err);
     return kCannotLoad;
   }
   for (const utility_command& command : loader.utilities()) {
@@ -71,6 +68,7 @@ int run_txhost(std::span<const std::string> arguments, std::FILE* out, std::FILE
   // progress starts empty for this run.
   tx_host_msgs_clear();
   tx_host_set_lng(options.language_offset);
+  if (!options.run_plugin.empty()) return run_utility(options, out, err);
   if (!options.project.empty()) {
     if (const int status = open_project(options, out, err); status != kDone) return status;
   }

@@ -32,15 +32,15 @@ TEST(Docker, AnswersFlagsIdCaptionAndContent) {
   EXPECT_EQ(caption.texts, std::vector<std::u16string>{u"Rename Project Elements"});
   bytes_sink image;  // the plug-in has no bitmap 10
   EXPECT_FALSE(t.image(d.object, image.pointer()));
-  EXPECT_TRUE(image.pictures.empty());
+  EXPECT_TRUE(image.calls.empty());
   element_sink content;
   t.visit_content(d.object, content.pointer());
   ASSERT_EQ(content.elements.size(), 1u);
-  EXPECT_TRUE(same_pair(content.elements[0], frame.widget().picture.pointer()));
+  EXPECT_TRUE(same(content.elements[0], frame.widget().picture.pointer()));
 
   toolkit::docker<picture_widget> bare(0, 0);  // id 0: neither caption nor image
   EXPECT_FALSE(bare.caption(caption.pointer()) || bare.image(image.pointer()));
-  EXPECT_EQ(caption.texts.size() + image.pictures.size(), 1u);
+  EXPECT_EQ(caption.texts.size() + image.calls.size(), 1u);
 }
 
 TEST(Bitmap, PixelsComeFromTheReferenceAndChangesAreToldOnce) {
@@ -54,7 +54,8 @@ TEST(Bitmap, PixelsComeFromTheReferenceAndChangesAreToldOnce) {
     picture.set_image(absent);
     EXPECT_FALSE(picture.pixels(pixels.pointer())) << absent;
   }
-  EXPECT_EQ(pixels.pictures, (std::vector<std::vector<std::int32_t>>{{16, 16, 3}}));
+  ASSERT_EQ(pixels.calls.size(), 1u);
+  EXPECT_EQ(pixels.calls[0].shape(), (std::vector<std::int32_t>{16, 16, 3}));
   picture.set_image(999);
   picture.set_hint(101);
   EXPECT_EQ(view.told,

@@ -9,7 +9,11 @@
 #include "test_outline.h"
 #include "toolkit/bitmap.h"
 #include "toolkit/button_box.h"
+#include "toolkit/checkbox.h"
 #include "toolkit/docker.h"
+#include "toolkit/dropdown.h"
+#include "toolkit/grid_layout.h"
+#include "toolkit/label.h"
 #include "toolkit/tool.h"
 #include "toolkit/toolbar.h"
 
@@ -33,8 +37,16 @@ TEST(Elements, EachAnswersOnlyItsOwnInterfaceName) {
   toolkit::toolbar<one_tool, toolbar_impl, void> bar;
   toolkit::docker<picture_widget> frame(10);
   toolkit::button_box box(10);
+  toolkit::label label;
+  toolkit::checkbox check;
+  toolkit::dropdown list;
+  toolkit::grid_layout<1, 1> grid;
   const tx_custom_pointer set = bar.tool_set();
   const std::pair<tx_custom_pointer, const char*> elements[] = {
+      {label.pointer(), TX_LABEL_INTERFACE_2},
+      {check.pointer(), TX_CHECKBOX_INTERFACE_2},
+      {list.pointer(), TX_DROPDOWN_INTERFACE_3},
+      {grid.pointer(), TX_GRID_LAYOUT_INTERFACE_91},
       {f.view.pointer(), TX_OUTLINE_INTERFACE_32},
       {row(&f.layer).pointer(), TX_OUTLINE_ITEM_INTERFACE_0},
       {f.checks.pointer(), TX_OUTLINE_CHECKS_INTERFACE_1},
@@ -51,19 +63,20 @@ TEST(Elements, EachAnswersOnlyItsOwnInterfaceName) {
   for (const auto& [element, own] : elements) {
     for (const auto& [unused, name] : elements) {
       EXPECT_TRUE(
-          same_pair(ask(element, name), std::string(name) == own ? element : tx_custom_pointer{}))
+          same(ask(element, name), std::string(name) == own ? element : tx_custom_pointer{}))
           << own << " asked for " << name;
     }
     for (const char* name : other_versions) {
-      EXPECT_TRUE(same_pair(ask(element, name), {})) << own << " asked for " << name;
+      EXPECT_TRUE(same(ask(element, name), {})) << own << " asked for " << name;
     }
   }
 }
 
-TEST(Elements, ANullViewNotifiesNobody) {
+TEST(Elements, ANullViewNotifiesNobodyAndAPresentOneIsTold) {
   outline_fixture f;
   action_tool tool;
   toolkit::bitmap picture(100);
+  toolkit::checkbox box(153);
   struct view_case {
     const char* what;
     std::function<void(tx_custom_pointer)> set_view;
@@ -77,6 +90,8 @@ TEST(Elements, ANullViewNotifiesNobody) {
        [&] { tool.set_enabled(!tool.enabled()); }, TX_CHANGED_STATE},
       {"bitmap", [&](tx_custom_pointer v) { picture.set_view(v); },
        [&] { picture.set_image(picture.image() + 1); }, TX_CHANGED_VALUE},
+      {"check box", [&](tx_custom_pointer v) { box.set_view(v); },
+       [&] { box.check(!box.is_checked()); }, TX_CHANGED_VALUE},
   };
   for (const view_case& c : cases) {
     recording_view view;

@@ -77,13 +77,13 @@ TEST(Outline, StyleColumnsAndChecksAreHandedOver) {
   element_sink columns, checks;
   for (std::int32_t i : {0, 1, 2, -1}) t.visit_column(o.object, i, columns.pointer());
   ASSERT_EQ(columns.elements.size(), 2u);
-  EXPECT_TRUE(same_pair(columns.elements[0], f.names.pointer()));
-  EXPECT_TRUE(same_pair(columns.elements[1], f.new_names.pointer()));
+  EXPECT_TRUE(same(columns.elements[0], f.names.pointer()));
+  EXPECT_TRUE(same(columns.elements[1], f.new_names.pointer()));
   t.visit_checks(o.object, checks.pointer());
   f.view.set_checks(nullptr);
   t.visit_checks(o.object, checks.pointer());
   ASSERT_EQ(checks.elements.size(), 1u);
-  EXPECT_TRUE(same_pair(checks.elements[0], f.checks.pointer()));
+  EXPECT_TRUE(same(checks.elements[0], f.checks.pointer()));
 }
 
 TEST(Outline, ReloadTellsTheViewRowsButUserChangesAreNotEchoed) {

@@ -45,12 +45,12 @@ TEST(Toolbar, PublishesItsToolsGroupByGroupUntilTheHostDeclines) {
     four_toolbar bar;
     const tx_custom_pointer set =
         ops<tx_toolbar_interface_6>(bar.pointer()).tool_set(bar.pointer().object);
-    tools_recorder host;
+    tools_sink host;
     host.limit = c.limit;
     ops<tx_tool_set_interface_5>(set).visit_tools(set.object, host.pointer());
     EXPECT_EQ(host.seen, c.seen) << c.limit;
     ASSERT_FALSE(host.tools.empty());
-    EXPECT_TRUE(same_pair(host.tools[0], bar.tools().a.pointer()));
+    EXPECT_TRUE(same(host.tools[0], bar.tools().a.pointer()));
   }
 }
 
@@ -59,8 +59,8 @@ TEST(Toolbar, FindsAToolByItsId) {
   const tx_custom_pointer set =
       ops<tx_toolbar_interface_6>(bar.pointer()).tool_set(bar.pointer().object);
   const auto find = ops<tx_tool_set_interface_5>(set).find_tool;
-  EXPECT_TRUE(same_pair(find(set.object, u"c"), bar.tools().c.pointer()));
-  EXPECT_TRUE(same_pair(find(set.object, u"d"), bar.tools().d.pointer()));
+  EXPECT_TRUE(same(find(set.object, u"c"), bar.tools().c.pointer()));
+  EXPECT_TRUE(same(find(set.object, u"d"), bar.tools().d.pointer()));
   for (const char16_t* id : {u"e", u"", static_cast<const char16_t*>(nullptr)}) {
     EXPECT_FALSE(present(find(set.object, id)));
   }
@@ -142,13 +142,13 @@ TEST(ActionTool, TextsAndImagesLoadFromTheirReferences) {
   EXPECT_TRUE(t.extra_image(p.object, 0, images.pointer()));  // the host's basic library
   for (std::int32_t absent : {1, 2, -1})
     EXPECT_FALSE(t.extra_image(p.object, absent, images.pointer()));
-  ASSERT_EQ(images.pictures.size(), 2u);
-  EXPECT_EQ(images.pictures[0], (std::vector<std::int32_t>{16, 16, 3}));
+  ASSERT_EQ(images.calls.size(), 2u);
+  EXPECT_EQ(images.calls[0].shape(), (std::vector<std::int32_t>{16, 16, 3}));
 
   action_tool bare;  // never configured: no texts, no image, nothing visited
   EXPECT_FALSE(bare.caption(texts.pointer()) || bare.hint(texts.pointer()) ||
                bare.image(images.pointer()));
-  EXPECT_EQ(texts.texts.size() + images.pictures.size(), 4u);
+  EXPECT_EQ(texts.texts.size() + images.calls.size(), 4u);
 }
 
 }  // namespace

@@ -22,6 +22,11 @@ TX_HOST_API double tx_host_msgs_progress_report(size_t index);
 TX_HOST_API size_t tx_host_msgs_progress_created(void);
 TX_HOST_API size_t tx_host_msgs_progress_destroyed(void);
 
+/* Whether tx_show_wwarning also writes "warning: TEXT" to stderr (on until switched off). A host
+   that shows the recorded warnings itself switches the echo off. */
+TX_HOST_API void tx_host_msgs_set_echo(bool on);
+TX_HOST_API bool tx_host_msgs_echo(void);
+
 /* Forgets every recorded warning, report and count. Indicators still alive stay usable. */
 TX_HOST_API void tx_host_msgs_clear(void);
 

@@ -4,25 +4,17 @@
 // through txk_prj's functions. UI thread only.
 #pragma once
 
-#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "tx_host/project/caption_log.h"
 #include "tx_host/project/entity_storage.h"
 #include "tx_host/project/nodes.h"
 #include "tx_host/project/update_bracket.h"
 
 namespace tx::host {
-
-struct caption_write {
-  tx_uuid uuid;
-  std::u16string old_caption;
-  std::u16string new_caption;
-  // Update brackets open at the time.
-  std::size_t depth;
-};
 
 class project_model {
  public:
@@ -47,7 +39,7 @@ class project_model {
   void set_invert_layers(bool on) noexcept;
 
   update_bracket& bracket() noexcept { return bracket_; }
-  const std::deque<caption_write>& caption_writes() const noexcept { return writes_; }
+  const caption_log& caption_writes() const noexcept { return writes_; }
   void clear_records() noexcept;
 
  private:
@@ -61,8 +53,7 @@ class project_model {
   std::vector<std::unique_ptr<tx_scn>> removed_scenes_;
   std::vector<std::unique_ptr<tx_lr_group>> removed_groups_;
   update_bracket bracket_;
-  // A deque: a recorded caption stays where it is while more are recorded.
-  std::deque<caption_write> writes_;
+  caption_log writes_;
   std::string error_;
 };
 

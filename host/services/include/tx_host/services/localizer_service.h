@@ -22,6 +22,10 @@ class localizer_service final : public interface_object {
   // (tx_localizer_service_visitor_interface_1; a null pair is skipped).
   void visit_localizer(tx_custom_pointer client, tx_custom_pointer visitor);
 
+  // Hands out `localizer` (a tx_localizer_interface_1 pair, borrowed: it must outlive every
+  // plug-in it is handed to) instead of the recording one; a null pair: the recording one again.
+  void hand_out(tx_custom_pointer localizer) noexcept { handed_out_ = localizer; }
+
   // The module names of the clients that asked, oldest first.
   const std::vector<std::u16string>& clients() const noexcept { return clients_; }
 
@@ -29,6 +33,7 @@ class localizer_service final : public interface_object {
   std::span<const interface_entry> interfaces() const noexcept override;
 
   recording_localizer& localizer_;
+  tx_custom_pointer handed_out_{};
   std::vector<std::u16string> clients_;
 };
 

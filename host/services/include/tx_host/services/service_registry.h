@@ -29,6 +29,12 @@ class service_registry final : public interface_object {
   // A localizer already handed out stays valid either way.
   void set_localizer_enabled(bool enabled) noexcept { localizer_enabled_ = enabled; }
   bool localizer_enabled() const noexcept { return localizer_enabled_; }
+  // Files `localizer` (a tx_localizer_interface_1 pair, borrowed: it must outlive every plug-in
+  // it serves) under TX_LOCALIZER_NAMESPACE_KEY in place of the test localizer, switched on.
+  void offer_localizer(tx_custom_pointer localizer) noexcept {
+    localizer_service_.hand_out(localizer);
+    localizer_enabled_ = true;
+  }
   // The localizer and the service that hands it out, whether switched on or not.
   recording_localizer& localizer() noexcept { return localizer_; }
   const localizer_service& localizer_entry() const noexcept { return localizer_service_; }

@@ -1,0 +1,51 @@
+// Runs the commands of a script on one shown dialog, as a user would act on it: every command
+// finds its target afresh through the element interfaces (the plug-in may have changed the
+// dialog since the last one), checks that a user could do it (the field is enabled, the tool
+// is enabled, the row is shown, the cell is editable) and then calls the element.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "tx/abi.h"
+#include "tx_host/dialog/script.h"
+#include "tx_host/dialog/vocabulary.h"
+
+namespace tx::host::dialog {
+
+struct command_outcome {
+  // Set when the command closed the dialog: the button's index, or -1 for the close box.
+  std::optional<std::int32_t> closed_with;
+  // What the command printed (print, help).
+  std::string output;
+  // Why the command could not be done; empty when it was.
+  std::string error;
+};
+
+class dialog_driver {
+ public:
+  // `docker` and `buttons`: the pairs the dialog is shown with, borrowed while it is shown.
+  dialog_driver(tx_custom_pointer docker, tx_custom_pointer buttons,
+                std::int32_t language_offset) noexcept
+      : docker_(docker), buttons_(buttons), language_(language_offset) {}
+
+  command_outcome run(const command& c) const;
+  // The dialog as text, as `print` prints it.
+  std::string render() const;
+  // Asks the button box whether its close box may close the dialog, as the frame does.
+  bool press_close_box() const noexcept;
+
+ private:
+  command_outcome choose_operation(const std::string& operation) const;
+  command_outcome set_field(const std::string& field, const std::string& value) const;
+  command_outcome row_command(const command& c) const;
+  command_outcome click(const std::string& tool) const;
+  command_outcome press(const command& c) const;
+
+  tx_custom_pointer docker_;
+  tx_custom_pointer buttons_;
+  std::int32_t language_;
+};
+
+}  // namespace tx::host::dialog

@@ -1,0 +1,152 @@
+// The script language: every command with its arguments, quoting and comments, and every kind
+// of error with the line it is on.
+#include "tx_host/dialog/script.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tx::host::dialog {
+namespace {
+
+TEST(ScriptLine, ParsesEveryCommandWithItsArguments) {
+  struct row {
+    std::string line;
+    verb what;
+    std::vector<std::string> arguments;
+  };
+  const row rows[] = {
+      {"print", verb::print, {}},
+      {"help", verb::help, {}},
+      {"op 2", verb::op, {"2"}},
+      {"op \"Изменить регистр\"", verb::op, {"Изменить регистр"}},
+      {"set Найти Город", verb::set, {"Найти", "Город"}},
+      {"set 3 \"\"", verb::set, {"3", ""}},
+      {"tick \"Сцены 2D / Город\"", verb::tick, {"Сцены 2D / Город"}},
+      {"untick Дороги", verb::untick, {"Дороги"}},
+      {"select Дороги", verb::select, {"Дороги"}},
+      {"deselect Дороги", verb::deselect, {"Дороги"}},
+      {"expand {1}", verb::expand, {"{1}"}},
+      {"collapse Город", verb::collapse, {"Город"}},
+      {"rename Дороги \"Улицы и дороги\"", verb::rename, {"Дороги", "Улицы и дороги"}},
+      {"click tx_prjrename_tree_undo_tool", verb::click, {"tx_prjrename_tree_undo_tool"}},
+      {"accept", verb::accept, {}},
+      {"close", verb::close, {}},
+      {"press 2", verb::press, {"2"}},
+      {"closebox", verb::closebox, {}},
+      {"tools", verb::tools, {}},
+      {"delete 0000000000000a04", verb::remove, {"0000000000000a04"}},
+      {"delete \"Лист 1\"", verb::remove, {"Лист 1"}},
+      {"reopen", verb::reopen, {}},
+  };
+  for (const row& r : rows) {
+    const parsed_line parsed = parse_line(r.line, 7);
+    ASSERT_TRUE(parsed.parsed.has_value()) << r.line << ": " << parsed.error->message;
+    EXPECT_FALSE(parsed.error.has_value());
+    EXPECT_EQ(parsed.parsed->what, r.what) << r.line;
+    EXPECT_EQ(parsed.parsed->arguments, r.arguments) << r.line;
+    EXPECT_EQ(parsed.parsed->line, 7u);
+    EXPECT_EQ(parsed.parsed->arguments.size(), verb_arguments(r.what).size()) << r.line;
+    EXPECT_EQ(r.line.substr(0, verb_name(r.what).size()), verb_name(r.what));
+  }
+}
+
+TEST(ScriptLine, QuotesBlanksAndCommentsAreReadAsWritten) {
+  struct row {
+    std::string line;
+    std::vector<std::string> arguments;  // of `rename`
+    std::string text;                    // what is echoed
+  };
+  const row rows[] = {
+      {"rename a b", {"a", "b"}, "rename a b"},
+      {"  \trename   a\t b  ", {"a", "b"}, "rename   a\t b"},
+      {"rename a b # a comment", {"a", "b"}, "rename a b"},
+      {"rename a b#c", {"a", "b#c"}, "rename a b#c"},
+      {"rename \"a # b\" c", {"a # b", "c"}, "rename \"a # b\" c"},
+      {"rename \"say \\\"hi\\\"\" \"back\\\\slash\"",
+       {"say \"hi\"", "back\\slash"},
+       "rename \"say \\\"hi\\\"\" \"back\\\\slash\""},
+      {"rename \"C:\\dir\\n\" x", {"C:\\dir\\n", "x"}, "rename \"C:\\dir\\n\" x"},
+      {"rename \"\" \"\"", {"", ""}, "rename \"\" \"\""},
+      {"rename a b\r", {"a", "b"}, "rename a b"},
+      {"rename Дороги \"Улицы — главные\"",
+       {"Дороги", "Улицы — главные"},
+       "rename Дороги \"Улицы — главные\""},
+  };
+  for (const row& r : rows) {
+    const parsed_line parsed = parse_line(r.line, 1);
+    ASSERT_TRUE(parsed.parsed.has_value()) << r.line << ": " << parsed.error->message;
+    EXPECT_EQ(parsed.parsed->what, verb::rename);
+    EXPECT_EQ(parsed.parsed->arguments, r.arguments) << r.line;
+    EXPECT_EQ(parsed.parsed->text, r.text) << r.line;
+  }
+  for (const std::string nothing : {"", "   ", "\t", "# only a comment", "   # indented", "\r"}) {
+    const parsed_line parsed = parse_line(nothing, 1);
+    EXPECT_FALSE(parsed.parsed.has_value() || parsed.error.has_value()) << nothing;
+  }
+}
+
+TEST(ScriptLine, TellsWhatIsWrongWithALine) {
+  struct row {
+    std::string line;
+    std::string message;
+  };
+  const row rows[] = {
+      {"frob", "unknown command 'frob' (help lists them)"},
+      {"Print", "unknown command 'Print' (help lists them)"},
+      {"\"print\" 1", "print takes no arguments"},
+      {"print now", "print takes no arguments"},
+      {"tick", "tick takes ROW; none given"},
+      {"tick Сцены 2D", "tick takes ROW; 2 arguments given (quote an argument that has blanks)"},
+      {"set Найти", "set takes FIELD VALUE; 1 argument given"},
+      {"rename a b c",
+       "rename takes ROW TEXT; 3 arguments given (quote an argument that has blanks)"},
+      {"tick \"Сцены 2D", "a quoted argument is not closed"},
+      {"tick \"a\\\"", "a quoted argument is not closed"},
+      {"set \"a\"b c", "a closing quote must be followed by a blank"},
+      {"set a\"b\" c", "a quote inside a word: quote the whole argument"},
+      {"tick \xD0", "the line is not UTF-8"},
+      {"tick \xC0\xAF", "the line is not UTF-8"},
+  };
+  for (const row& r : rows) {
+    const parsed_line parsed = parse_line(r.line, 12);
+    EXPECT_FALSE(parsed.parsed.has_value()) << r.line;
+    ASSERT_TRUE(parsed.error.has_value()) << r.line;
+    EXPECT_EQ(*parsed.error, (script_error{12, r.message})) << r.line;
+  }
+}
+
+TEST(Script, NumbersLinesFromOneAndStopsAtTheFirstError) {
+  const parsed_script good = parse_script(
+      "\xEF\xBB\xBF# a script\r\n\r\nop 2\r\n  # set nothing yet\nset 1 \"a b\"\naccept");
+  EXPECT_FALSE(good.error.has_value());
+  ASSERT_EQ(good.commands.size(), 3u);
+  EXPECT_EQ(good.commands[0], (command{verb::op, {"2"}, 3, "op 2"}));
+  EXPECT_EQ(good.commands[1], (command{verb::set, {"1", "a b"}, 5, "set 1 \"a b\""}));
+  EXPECT_EQ(good.commands[2], (command{verb::accept, {}, 6, "accept"}));
+
+  const parsed_script bad = parse_script("print\n\nclick\nprint\nfrob\n");
+  ASSERT_TRUE(bad.error.has_value());
+  EXPECT_EQ(*bad.error, (script_error{3, "click takes TOOL; none given"}));
+  ASSERT_EQ(bad.commands.size(), 1u);
+  EXPECT_EQ(bad.commands[0].what, verb::print);
+
+  EXPECT_TRUE(parse_script("").commands.empty());
+  EXPECT_FALSE(parse_script("\n\n\n").error.has_value());
+}
+
+TEST(Script, TheSummaryNamesEveryCommandOnce) {
+  const std::string summary = command_summary();
+  for (const verb v :
+       {verb::print, verb::help, verb::op, verb::set, verb::tick, verb::untick, verb::select,
+        verb::deselect, verb::expand, verb::collapse, verb::rename, verb::click, verb::accept,
+        verb::close, verb::press, verb::closebox, verb::tools, verb::remove, verb::reopen}) {
+    const std::string line = "  " + std::string(verb_name(v)) + " ";
+    EXPECT_NE(summary.find(line), std::string::npos) << verb_name(v);
+  }
+  EXPECT_EQ(std::count(summary.begin(), summary.end(), '\n'), 19);
+}
+
+}  // namespace
+}  // namespace tx::host::dialog
