@@ -28,19 +28,17 @@ class dialog_collector final : public interface_object {
   std::vector<std::pair<std::string, tx_custom_pointer>> dialogs;
 
  private:
-  static constexpr tx_modal_dialog_visitor_interface_101 table{
-      &root_slot,
-      [](void* self, const char16_t* id, tx_custom_pointer dialog) noexcept {
-        try {
-          if (present(dialog)) {
-            object_of<dialog_collector>(self).dialogs.emplace_back(
-                to_utf8(id != nullptr ? id : u""), dialog);
-          }
-        } catch (...) {
-          // Out of memory: the dialog gets no view and is not shown.
-        }
-      },
-  };
+  static void visit(void* self, const char16_t* id, tx_custom_pointer dialog) noexcept {
+    try {
+      if (present(dialog)) {
+        object_of<dialog_collector>(self).dialogs.emplace_back(to_utf8(id != nullptr ? id : u""),
+                                                               dialog);
+      }
+    } catch (...) {
+      // Out of memory: the dialog gets no view and is not shown.
+    }
+  }
+  static constexpr tx_modal_dialog_visitor_interface_101 table{&root_slot, &visit};
   static constexpr interface_entry entries[]{{TX_MODAL_DIALOG_VISITOR_INTERFACE_101, &table}};
   std::span<const interface_entry> interfaces() const noexcept override { return entries; }
 };
