@@ -90,7 +90,8 @@ class project_writer {
 
   void number(std::size_t value) {
     char digits[24];
-    text_.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+    const char* end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    text_.append(digits, static_cast<std::size_t>(end - digits));
   }
 
   void path(std::size_t g, std::size_t h) {

@@ -64,15 +64,4 @@ void tree_session::restore_captions() {
   tx_host_msgs_clear();
 }
 
-tree_session& session_of(const std::filesystem::path& folder, std::size_t elements) {
-  static std::unique_ptr<tree_session> open;
-  if (!open || open->elements() != elements) {
-    // The old one goes first, so that two projects are never held at once.
-    open.reset();
-    tx_host_project_clear();
-    open = std::make_unique<tree_session>(folder, elements);
-  }
-  return *open;
-}
-
 }  // namespace tx::bench

@@ -1,6 +1,6 @@
 // One scale project of the tree benchmarks, open in the reference host, with what the dialog
-// holds over it: the element tree, the name store and the operations. The benchmarks time one
-// call at a time against it and bring it back, untimed, to the ready state:
+// holds over it: the element tree, the name store and the operations. The tree measures time
+// one call at a time against it and bring it back, untimed, to the ready state:
 //   - the tree built from the project, every element ticked;
 //   - the store holding one step, the find and replace of «layer» by «слой» over every element
 //     (so every element has an entry), nothing to redo;
@@ -33,7 +33,7 @@ class tree_session {
   void build_ticked_tree();
   // Find and replace set to «layer» → «слой» (the execute step empties its inputs).
   void set_find_replace();
-  // Brings the session to the ready state from wherever a benchmark left it.
+  // Brings the session to the ready state from wherever a measure left it.
   void make_ready();
   // Writes every entry's new name (or old name) into the project, straight through the host, as
   // many writes as the commit makes.
@@ -49,10 +49,5 @@ class tree_session {
   std::size_t elements_;
   std::string error_;
 };
-
-// The session of `elements` elements: the open one when it has that size, else a new one that
-// replaces it (the host holds one project per process). Benchmarks registered size after size
-// therefore load each project once.
-tree_session& session_of(const std::filesystem::path& folder, std::size_t elements);
 
 }  // namespace tx::bench
