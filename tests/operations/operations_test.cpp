@@ -1,15 +1,13 @@
 // The four operations driven through their panels' controls, as the host drives them: what each
-// reads at apply time, what remember keeps, what reset empties, when each is idle, and the chain
-// of the list's active operations.
+// reads at apply time, what remember keeps, what reset empties, and when each is idle. (The
+// list's order shows in every printed dialog; chaining is tests/rename/chain_test.cpp.)
 #include <gtest/gtest.h>
 
 #include "rename/case_change.h"
 #include "rename/erase.h"
 #include "rename/find_replace.h"
 #include "rename/insert.h"
-#include "rename/operation_list.h"
 #include "tx/toolkit/controls.h"
-#include "tx_host/basic.h"
 
 namespace tx {
 namespace {
@@ -159,44 +157,6 @@ TEST(EraseOperation, ResetClearsKindCountTextAndBoxesButKeepsTheSide) {
   EXPECT_EQ(p.characters.history(), std::vector<std::u16string>{u"x"});
   EXPECT_TRUE(op.is_idle());  // no kind selected acts as no change
   EXPECT_EQ(applied(op, u"a.b"), u"a.b");
-}
-
-TEST(OperationList, FixedOrderAndOnlyTheActiveOnesChainedInIt) {
-  tx_host_set_lng(0);
-  prjrename_operation_list list;
-  const auto& ops = list.operations();
-  ASSERT_EQ(ops.size(), 4u);
-  std::vector<std::uint32_t> titles;
-  for (const auto& op : ops) titles.push_back(op->title_id());
-  EXPECT_EQ(titles, (std::vector<std::uint32_t>{150, 175, 200, 225}));
-  EXPECT_EQ(list.shown, 0u);
-  EXPECT_TRUE(list.active().empty());
-
-  auto& replace = static_cast<prjrename_find_replace&>(*ops[0]).settings();
-  auto& casing = static_cast<prjrename_case_change&>(*ops[1]).settings();
-  auto& insert = static_cast<prjrename_insert&>(*ops[2]).settings();
-  auto& erase = static_cast<prjrename_erase&>(*ops[3]).settings();
-  type(replace.search, u"road");
-  type(replace.replacement, u"street");
-  pick(casing.mode, 2);  // upper case
-  type(insert.text, u".shp");
-  pick(insert.position, 1);
-  pick(erase.kind, 3);  // extension: takes off what insert just added
-  EXPECT_EQ(list.active().size(), 4u);
-
-  std::u16string current, scratch;
-  EXPECT_TRUE(rename::run_chain(list.active(), u"main road.tab", current, scratch));
-  EXPECT_EQ(current, u"MAIN STREET.TAB");
-  // An operation that changes nothing passes the name on.
-  EXPECT_TRUE(rename::run_chain(list.active(), u"lane.tab", current, scratch));
-  EXPECT_EQ(current, u"LANE.TAB");
-  // With only find and replace left active, a name without the search text is unchanged.
-  pick(casing.mode, 0);
-  type(insert.text, u"");
-  pick(erase.kind, 4);
-  ASSERT_EQ(list.active().size(), 1u);
-  EXPECT_FALSE(rename::run_chain(list.active(), u"lane", current, scratch));
-  EXPECT_EQ(current, u"lane");
 }
 
 }  // namespace

@@ -105,15 +105,6 @@ TEST(PluginLibrary, LoadsAndOffersBothExports) {
   }
 }
 
-TEST(PluginLibrary, ListsItsFourFactoriesAndPublishesItsServices) {
-  loaded_plugin p;
-  std::vector<std::u16string> keys;
-  for (const auto& f : p.sink.factories.entries) keys.push_back(f.first);
-  EXPECT_EQ(keys, (std::vector<std::u16string>{u"", TX_UTILITY_NAMESPACE_KEY, u"", u""}));
-  EXPECT_EQ(p.sink.utility_services.pairs.size(), 1u);
-  EXPECT_EQ(p.sink.dialog_services.pairs.size(), 2u);
-}
-
 TEST(PluginLibrary, UnloadingReleasesServicesTheHostNoLongerHolds) {
   std::vector<std::string> log;
   test::referrer host{.name = "host", .holding = false, .log = &log};

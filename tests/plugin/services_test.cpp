@@ -2,10 +2,8 @@
 #define TX_BUILDING_PLUGIN  // declares the plug-in's exports, which this program links
 #include <gtest/gtest.h>
 
-#include "guards.h"
 #include "host_services.h"
-#include "plugin/modal_dialog_service.h"
-#include "plugin/project_rename_utility.h"
+#include "plugin/localizer.h"
 #include "plugin/service_factory.h"
 #include "resources/loader.h"
 
@@ -95,20 +93,6 @@ struct published {
   }
 };
 
-TEST(UtilityService, TheRenameCommandIsCaptionedInTheHostsLanguage) {
-  published p;
-  const tx_custom_pointer command = p.command();
-  ASSERT_TRUE(present(command));
-  for (const auto& [language, caption] :
-       {std::pair{test::russian, u"Переименование элементов проекта"},
-        std::pair{test::english, u"Rename Project Elements"}}) {
-    const test::language_guard guard(language);
-    test::string_sink text;
-    EXPECT_TRUE(ops<tx_utility_interface_4>(command).caption(command.object, text.pointer()));
-    EXPECT_EQ(text.texts, std::vector<std::u16string>{caption});
-  }
-}
-
 TEST(UtilityService, TheCommandAnswersVersionFourOnlyHasNoImageAndIsAvailable) {
   published p;
   const tx_custom_pointer command = p.command();
@@ -133,32 +117,6 @@ TEST(UtilityService, TheSameServiceIsPublishedOnEveryVisitAndOnlyWhereAsked) {
   EXPECT_TRUE(same(first.command(), second.command()));
   EXPECT_TRUE(without_utilities.sink.utility_services.pairs.empty());
   EXPECT_EQ(without_utilities.sink.dialog_services.pairs.size(), 2u);
-}
-
-TEST(ModalDialogService, TheRenameDialogKeepsTheHostsView) {
-  published p;
-  ASSERT_EQ(p.sink.dialog_services.pairs.size(), 2u);
-  std::vector<std::vector<std::u16string>> ids;
-  tx_custom_pointer dialog{};
-  for (const tx_custom_pointer service : p.sink.dialog_services.pairs) {
-    test::named_sink names;
-    ops<tx_modal_dialog_service_interface_102>(service).visit_dialogs(
-        service.object, names.as<tx_modal_dialog_visitor_interface_101>());
-    ids.emplace_back();
-    for (const auto& [id, pair] : names.entries) {
-      ids.back().push_back(id);
-      dialog = pair;
-    }
-  }
-  // The generic service names no dialog; the rename dialog's names its own.
-  EXPECT_EQ(ids, (std::vector<std::vector<std::u16string>>{{}, {u"txk_project_rename"}}));
-  int view_object = 0;
-  const tx_modal_dialog_view_interface_101 view_table{nullptr, nullptr};
-  const auto& kept = modal_dialog<&project_rename_utility::id>::instance();
-  ops<tx_modal_dialog_interface_101>(dialog).set_view(dialog.object, {&view_table, &view_object});
-  EXPECT_EQ(kept.view().object, &view_object);
-  ops<tx_modal_dialog_interface_101>(dialog).set_view(dialog.object, {&view_table, nullptr});
-  EXPECT_FALSE(present(kept.view()));
 }
 
 TEST(ClientFactory, TheHostsLocalizerIsKeptWhileOffered) {

@@ -108,23 +108,6 @@ TEST(BuildTree, InvertLayersReversesEveryLevelAndGroupsArePreOrder) {
   }
 }
 
-TEST(BuildTree, NodesCarryUuidsExpandedStatesAndLiveCaptions) {
-  test::project_fixture p(project_json(
-      R"("scenes_2d": )" +
-      collection("S2",
-                 {scene("a1", "Map", {layer("a2", "Roads", {layer("a3", "Lane")}, true, false)}),
-                  R"({"uuid": "a4", "caption": "Empty"})"})));
-  ASSERT_TRUE(p.loaded) << tx_host_project_error();
-  const prjrename_tree_item& roads = p.at({0, 0, 0});
-  EXPECT_TRUE(tx_uuid_equal(roads.uuid, test::uuid(0xa2)));
-  EXPECT_FALSE(roads.expanded);
-  EXPECT_TRUE(p.at({0, 0}).expanded);
-  EXPECT_EQ(p.at({0, 1}).visible_child_count(), 0u);  // a scene without a root layer group
-  EXPECT_FALSE(p.at({0}).has_entity());
-  tx_entity_set_wcaption(tx_entity_storage_find_by_uid(test::uuid(0xa3)), u"Street");
-  EXPECT_EQ(caption_of(p.at({0, 0, 0, 0})), u"Street");  // read from the host when asked
-}
-
 TEST(BuildTree, ANullProjectGivesAnEmptyRootAndReplacesTheOldTree) {
   test::project_fixture p(project_json(R"("scenes_2d": )" + one_scene));
   ASSERT_TRUE(p.loaded);

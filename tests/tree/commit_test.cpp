@@ -1,10 +1,9 @@
-// The execute step's warnings and the commit: validation before any write, progress, the update
-// bracket, deleted elements, every entry written.
+// The commit: validation before any write or progress, then every entry written in one update
+// bracket with progress, deleted elements skipped. (The execute step's warnings and its effect
+// on the operations are driven end to end.)
 #include "tree/commit.h"
 
 #include "project_fixture.h"
-#include "rename/find_replace.h"
-#include "tree/execute.h"
 
 namespace tx {
 namespace {
@@ -16,7 +15,6 @@ using test::scene;
 
 struct dialog_state : test::project_fixture {
   prjrename_names names;
-  prjrename_operation_list operations;
 
   dialog_state()
       : project_fixture(project_json(
@@ -24,9 +22,6 @@ struct dialog_state : test::project_fixture {
                                                          {layer("2", "Roads"), layer("3", "Rivers"),
                                                           layer("4", "Lakes")})}))) {
     tx_host_set_lng(0);
-  }
-  prjrename_find_replace::panel& replace() const {
-    return static_cast<prjrename_find_replace&>(*operations.operations()[0]).settings();
   }
   std::vector<std::pair<std::uint64_t, std::u16string>> writes() const {
     std::vector<std::pair<std::uint64_t, std::u16string>> list;
@@ -39,40 +34,6 @@ struct dialog_state : test::project_fixture {
     return list;
   }
 };
-
-TEST(Execute, AllIdleWarnsNoConditionsEvenWithNothingTicked) {
-  dialog_state d;
-  ASSERT_TRUE(d.loaded) << tx_host_project_error();
-  EXPECT_FALSE(execute_operations(d.operations, *d.root, d.names));
-  EXPECT_EQ(test::warnings(), std::vector<std::u16string>{u"Не заданы условия переименования"});
-}
-
-TEST(Execute, NothingRenameableTickedWarnsAndKeepsTheSettings) {
-  dialog_state d;
-  ASSERT_TRUE(d.loaded);
-  d.replace().search.assign_text(u"o");
-  d.at({0}).checked = true;  // a collection row only
-  EXPECT_FALSE(execute_operations(d.operations, *d.root, d.names));
-  EXPECT_EQ(test::warnings(),
-            std::vector<std::u16string>{u"Не выбран ни один элемент для переименования"});
-  EXPECT_EQ(d.replace().search.value(), u"o");
-  EXPECT_TRUE(d.replace().search.history().empty());
-}
-
-TEST(Execute, AppliesRemembersAndResets) {
-  dialog_state d;
-  ASSERT_TRUE(d.loaded);
-  d.replace().search.assign_text(u"R");
-  d.replace().replacement.assign_text(u"B");
-  d.root->set_check(check_tick, false);
-  EXPECT_TRUE(execute_operations(d.operations, *d.root, d.names));
-  EXPECT_TRUE(test::warnings().empty());
-  EXPECT_EQ(d.names.find(test::uuid(2))->new_name.view(), u"Boads");
-  EXPECT_EQ(d.names.find(test::uuid(3))->new_name.view(), u"BiveBs");  // matching ignores case
-  EXPECT_EQ(d.names.find(test::uuid(1)), nullptr);                     // "Map" has no r: no entry
-  EXPECT_TRUE(d.replace().search.value().empty());
-  EXPECT_EQ(d.replace().search.history(), std::vector<std::u16string>{u"R"});
-}
 
 TEST(Commit, NoEntriesWarnsAndTouchesNothing) {
   dialog_state d;

@@ -6,7 +6,6 @@
 #include <string>
 
 #include "host_doubles.h"
-#include "test_outline.h"
 #include "toolkit/bitmap.h"
 #include "toolkit/button_box.h"
 #include "toolkit/checkbox.h"
@@ -14,6 +13,8 @@
 #include "toolkit/dropdown.h"
 #include "toolkit/grid_layout.h"
 #include "toolkit/label.h"
+#include "toolkit/outline.h"
+#include "toolkit/outline_item.h"
 #include "toolkit/tool.h"
 #include "toolkit/toolbar.h"
 
@@ -26,6 +27,45 @@ struct one_tool final : toolkit::with_tools {
   void publish(toolkit::tools_visitor& visitor) override { visitor.tool(u"only", only.pointer()); }
   action_tool only;
 };
+
+// An outline without rows, with one column and check boxes: enough to ask each its interface
+// and to tell its view.
+struct rowless_outline final : toolkit::outline {
+  rowless_outline() : outline(0) {}
+  std::int32_t row_count(custom_pointer) override { return 0; }
+  custom_pointer row(custom_pointer, std::int32_t) override { return {}; }
+  bool selected(custom_pointer) override { return false; }
+  void set_selected(custom_pointer, bool) override {}
+  bool expanded(custom_pointer) override { return false; }
+  void set_expanded(custom_pointer, bool) override {}
+  bool faulty(custom_pointer) override { return false; }
+};
+struct textless_column final : toolkit::string_outline_column {
+  textless_column() : string_outline_column(u"old", 50, 20) {}
+  bool text(custom_pointer, custom_pointer) override { return false; }
+  bool editable(custom_pointer) override { return false; }
+  bool emphasized(custom_pointer) override { return false; }
+
+ protected:
+  void edit(custom_pointer, std::u16string_view) override {}
+};
+struct unticked_checks final : toolkit::outline_checks {
+  bool checked(custom_pointer) override { return false; }
+
+ protected:
+  void check(custom_pointer, bool) override {}
+};
+struct outline_fixture {
+  outline_fixture() {
+    view.add_column(names);
+    view.set_checks(&checks);
+  }
+  rowless_outline view;
+  textless_column names;
+  unticked_checks checks;
+  int layer = 0;  // what a row handle stands for
+};
+using row = toolkit::outline_item<int*>;
 
 struct picture_widget {
   custom_pointer layout() { return picture.pointer(); }
