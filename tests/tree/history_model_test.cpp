@@ -1,8 +1,8 @@
 // The name store against a deliberately simple model of its rules, over long random sequences
 // of applied operations (on random sets of elements, some of which the host no longer has), hand
 // edits, undo and redo. After every step each entry, both stacks, the latest-step marks and the
-// number of signals must agree with the model. The sequence is fixed by its seed, printed on a
-// failure so that it can be replayed.
+// number of signals must agree with the model. The sequence is fixed by the number it starts from,
+// printed on a failure so that it can be replayed.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -159,8 +159,8 @@ std::string layered_project() {
 }
 
 TEST(HistoryModel, LongRandomSequencesAgreeWithTheModel) {
-  const std::uint32_t seed = 20261122;
-  SCOPED_TRACE("seed " + std::to_string(seed));
+  const std::uint32_t origin = 20261122;
+  SCOPED_TRACE("random sequence " + std::to_string(origin));
   project_fixture project(layered_project());
   ASSERT_TRUE(project.loaded);
 
@@ -176,7 +176,7 @@ TEST(HistoryModel, LongRandomSequencesAgreeWithTheModel) {
   int signals = 0;
   const auto connection = names.changed.connect([&] { ++signals; });
   rule_operation first, second;
-  std::mt19937 random(seed);
+  std::mt19937 random(origin);
   const auto below = [&](unsigned n) { return static_cast<unsigned>(random() % n); };
   const std::u16string typed[] = {u"", u"Дороги", u"Слой 1", u"x"};
 
