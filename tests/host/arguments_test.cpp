@@ -1,39 +1,65 @@
+// txhost's command line: --list PLUGIN, --project FILE and PROJECT --plugin PLUGIN
+// [--script FILE], what each accepts and what makes no sense.
 #include "arguments.h"
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 namespace tx::host {
 namespace {
 
-TEST(TxhostArguments, AcceptsListProjectLanguageAndHelpInAnyOrder) {
+TEST(TxhostArguments, AcceptsEveryFormWithItsOptionsInAnyOrder) {
+  // txhost_options with every field defaulted, so that a row names only what it sets.
+  struct options {
+    bool help = false;
+    std::string plugin{}, project{};
+    std::int32_t language_offset = 0;
+    std::string run_project{}, run_plugin{}, script{};
+    bool no_localizer = false, hostile = false;
+  };
   struct row {
     std::vector<std::string> arguments;
-    bool help;
-    std::string plugin;
-    std::string project;
-    std::int32_t language;
+    options expected;
   };
   const row rows[] = {
-      {{"--list", "p.dll"}, false, "p.dll", "", 0},
-      {{"--list", "p.dll", "--lang", "ru"}, false, "p.dll", "", 0},
-      {{"--list", "p.dll", "--lang", "en"}, false, "p.dll", "", 50000},
-      {{"--lang", "en", "--list", "/a b/плагин.so"}, false, "/a b/плагин.so", "", 50000},
-      {{"--help"}, true, "", "", 0},
-      {{"--list", "p.dll", "--help"}, true, "p.dll", "", 0},
-      {{"--project", "город.json"}, false, "", "город.json", 0},
-      {{"--project", "c.json", "--lang", "en"}, false, "", "c.json", 50000},
-      {{"--project", "c.json", "--list", "p.dll"}, false, "p.dll", "c.json", 0},
+      {{"--list", "p.dll"}, {.plugin = "p.dll"}},
+      {{"--list", "p.dll", "--lang", "ru"}, {.plugin = "p.dll"}},
+      {{"--list", "p.dll", "--lang", "en"}, {.plugin = "p.dll", .language_offset = 50000}},
+      {{"--lang", "en", "--list", "/a b/плагин.so"},
+       {.plugin = "/a b/плагин.so", .language_offset = 50000}},
+      {{"--help"}, {.help = true}},
+      {{"--list", "p.dll", "--help"}, {.help = true, .plugin = "p.dll"}},
+      {{"--project", "город.json"}, {.project = "город.json"}},
+      {{"--project", "c.json", "--lang", "en"}, {.project = "c.json", .language_offset = 50000}},
+      {{"--project", "c.json", "--list", "p.dll"}, {.plugin = "p.dll", .project = "c.json"}},
+      {{"c.json", "--plugin", "p.dll"}, {.run_project = "c.json", .run_plugin = "p.dll"}},
+      {{"c.json", "--plugin", "p.dll", "--lang", "30000"},
+       {.language_offset = 30000, .run_project = "c.json", .run_plugin = "p.dll"}},
+      {{"c.json", "--plugin", "p.dll", "--lang", "2147483647"},
+       {.language_offset = 2147483647, .run_project = "c.json", .run_plugin = "p.dll"}},
+      {{"c.json", "--no-localizer", "--plugin", "p.dll", "--hostile"},
+       {.run_project = "c.json", .run_plugin = "p.dll", .no_localizer = true, .hostile = true}},
+      {{"--plugin", "p.dll", "город.json"}, {.run_project = "город.json", .run_plugin = "p.dll"}},
+      {{"c.json", "--plugin", "p.dll", "--script", "run.txt", "--lang", "en"},
+       {.language_offset = 50000,
+        .run_project = "c.json",
+        .run_plugin = "p.dll",
+        .script = "run.txt"}},
+      {{"--script", "a b.txt", "--plugin", "p.so", "/x/c.json"},
+       {.run_project = "/x/c.json", .run_plugin = "p.so", .script = "a b.txt"}},
+  };
+  // Every field, in declaration order, of the options parsed and of the row.
+  const auto fields = [](const auto& o) {
+    return std::tuple(o.help, o.plugin, o.project, o.language_offset, o.run_project, o.run_plugin,
+                      o.script, o.no_localizer, o.hostile);
   };
   for (const row& r : rows) {
     const parsed_arguments parsed = parse_arguments(r.arguments);
     ASSERT_TRUE(parsed.options.has_value()) << parsed.error;
-    EXPECT_EQ(parsed.options->help, r.help) << r.arguments[0];
-    EXPECT_EQ(parsed.options->plugin, r.plugin) << r.arguments[0];
-    EXPECT_EQ(parsed.options->project, r.project) << r.arguments[0];
-    EXPECT_EQ(parsed.options->language_offset, r.language) << r.arguments[0];
     EXPECT_TRUE(parsed.error.empty());
+    EXPECT_EQ(fields(*parsed.options), fields(r.expected)) << testing::PrintToString(r.arguments);
   }
 }
 
@@ -42,6 +68,7 @@ TEST(TxhostArguments, RejectsWhatMakesNoSense) {
     std::vector<std::string> arguments;
     std::string error;
   };
+  const std::string run_only = " goes with PROJECT --plugin PLUGIN";
   const row rows[] = {
       {{}, "nothing to do"},
       {{"--lang", "en"}, "--list PLUGIN or --project FILE is required"},
@@ -60,11 +87,43 @@ TEST(TxhostArguments, RejectsWhatMakesNoSense) {
       {{"--list", "a", "extra"}, "unexpected argument 'extra'"},
       {{"-h"}, "unexpected argument '-h'"},
       {{"--help", "--verbose"}, "unexpected argument '--verbose'"},
+      {{"c.json"}, "unexpected argument 'c.json'"},
+      {{"--plugin", "p.dll"}, "--plugin PLUGIN needs a PROJECT to run on"},
+      {{"c.json", "d.json", "--plugin", "p.dll"}, "unexpected argument 'd.json'"},
+      {{"c.json", "--plugin"}, "--plugin needs a PLUGIN"},
+      {{"c.json", "--plugin", "p.dll", "--script"}, "--script needs a FILE"},
+      {{"c.json", "--plugin", "p.dll", "--script", ""}, "--script needs a FILE"},
+      {{"c.json", "--plugin", "a", "--plugin", "b"}, "--plugin given twice"},
+      {{"c.json", "--plugin", "p.dll", "--list", "p.dll"},
+       "PROJECT --plugin PLUGIN goes without --list and --project"},
+      {{"c.json", "--plugin", "p.dll", "--project", "c.json"},
+       "PROJECT --plugin PLUGIN goes without --list and --project"},
+      {{"--list", "p.dll", "--script", "run.txt"}, "--script FILE" + run_only},
+      {{"--script", "run.txt"}, "--script FILE" + run_only},
+      {{"c.json", "--plugin", "p.dll", "--lang", "-1"},
+       "unknown language '-1' (ru, en or an offset)"},
+      {{"c.json", "--plugin", "p.dll", "--lang", "2147483648"},
+       "unknown language '2147483648' (ru, en or an offset)"},
+      {{"c.json", "--plugin", "p.dll", "--lang", "3e4"},
+       "unknown language '3e4' (ru, en or an offset)"},
+      {{"c.json", "--plugin", "p.dll", "--hostile", "--hostile"}, "--hostile given twice"},
+      {{"--list", "p.dll", "--no-localizer"}, "--no-localizer" + run_only},
+      {{"--project", "c.json", "--hostile"}, "--hostile" + run_only},
   };
   for (const row& r : rows) {
     const parsed_arguments parsed = parse_arguments(r.arguments);
     EXPECT_FALSE(parsed.options.has_value()) << r.error;
     EXPECT_EQ(parsed.error, r.error);
+  }
+}
+
+TEST(TxhostArguments, TheUsageKeepsItsFirstLineAndTellsTheRunForm) {
+  const std::string usage = txhost_usage();
+  EXPECT_TRUE(usage.starts_with("Usage: txhost --list PLUGIN"));
+  EXPECT_NE(usage.find("txhost PROJECT --plugin PLUGIN [--script FILE] [--lang ru|en|N]"),
+            std::string::npos);
+  for (const char* option : {"--no-localizer", "--hostile"}) {
+    EXPECT_NE(usage.find(std::string("  ") + option + " "), std::string::npos) << option;
   }
 }
 

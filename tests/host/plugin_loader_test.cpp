@@ -71,36 +71,37 @@ TEST(PluginLoader, FailsClearlyOnWhatIsNotAPlugin) {
   }
 }
 
-TEST(PluginLoader, ListsTheFactoriesAndHoldsThePublishedServices) {
+TEST(PluginLoader, ListsTheFactoriesHoldsTheServicesAndLoadingAgainReplacesThem) {
+  const fake_plugin_probe probe;
   service_registry registry;
   plugin_loader loader(registry);
   ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
   EXPECT_TRUE(loader.loaded());
   EXPECT_EQ(loader.error(), load_error::none);
   EXPECT_TRUE(loader.error_message().empty());
-
   ASSERT_EQ(loader.sink().factories().size(), 1u);
   EXPECT_EQ(loader.sink().factories()[0].key, TX_UTILITY_NAMESPACE_KEY);
   EXPECT_EQ(loader.sink().utility_services().size(), 1u);
   EXPECT_EQ(loader.sink().dialog_services().size(), 1u);
   EXPECT_EQ(registry.requested_keys(), std::vector<std::u16string>{TX_LOCALIZER_NAMESPACE_KEY});
-}
 
-TEST(PluginLoader, LocalizerWhenSwitchedOnAnswersThePluginsCaption) {
-  service_registry registry;
+  // Loaded again with the localizer switched on: the plug-in's caption comes from it.
   registry.set_localizer_enabled(true);
-  plugin_loader loader(registry);
   ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
-
+  EXPECT_EQ(probe.referrers(0), 1u);
+  EXPECT_EQ(loader.sink().factories().size(), 1u);
   const std::vector<utility_command> commands = loader.utilities();
   ASSERT_EQ(commands.size(), 1u);
   EXPECT_EQ(commands[0].caption(), u"localized:10");
   EXPECT_EQ(registry.localizer_entry().clients(), std::vector<std::u16string>{u"tx_fake_plugin"});
   EXPECT_EQ(registry.localizer().requests(),
             (std::vector<localizer_request>{{localizer_request::kind::string, 10}}));
+
+  EXPECT_FALSE(loader.load(kNotAPlugin));
+  EXPECT_EQ(probe.referrers(0), 0u) << "a failed load still unloads the previous plug-in";
 }
 
-TEST(PluginLoader, UnloadDetachesFromEveryServiceAndCallsTheUnloadingHook) {
+TEST(PluginLoader, UnloadDetachesFromEveryServiceStillHeldAndCallsTheUnloadingHook) {
   const fake_plugin_probe probe;
   const std::size_t utility_detaches = probe.detaches(0);
   const std::size_t dialog_detaches = probe.detaches(1);
@@ -123,32 +124,14 @@ TEST(PluginLoader, UnloadDetachesFromEveryServiceAndCallsTheUnloadingHook) {
 
   loader.unload();
   EXPECT_EQ(probe.unloading_calls(), unloading_calls + 1) << "nothing left to unload";
-}
 
-TEST(PluginLoader, ServicesThePluginDestroyedAreNeitherListedNorDetached) {
-  const fake_plugin_probe probe;
-  service_registry registry;
-  plugin_loader loader(registry);
+  // Services the plug-in destroyed are neither listed nor detached.
   ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
-  const std::size_t utility_detaches = probe.detaches(0);
-
   probe.release_services();
   EXPECT_TRUE(loader.utilities().empty());
   loader.unload();
-  EXPECT_EQ(probe.detaches(0), utility_detaches);
-}
-
-TEST(PluginLoader, LoadingAgainReplacesWhatWasLoaded) {
-  const fake_plugin_probe probe;
-  service_registry registry;
-  plugin_loader loader(registry);
-  ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
-  ASSERT_TRUE(loader.load(kFakePlugin)) << loader.error_message();
-  EXPECT_EQ(probe.referrers(0), 1u);
-  EXPECT_EQ(loader.sink().factories().size(), 1u);
-
-  EXPECT_FALSE(loader.load(kNotAPlugin));
-  EXPECT_EQ(probe.referrers(0), 0u) << "a failed load still unloads the previous plug-in";
+  EXPECT_EQ(probe.detaches(0), utility_detaches + 1);
+  EXPECT_EQ(probe.detaches(1), dialog_detaches + 1);
 }
 
 // The copy, away from the host's libraries, finds txk_basic already loaded by this program (the

@@ -1,5 +1,6 @@
 // Case mapping, the same answers in both builds: the Windows case tables under Wine and the C
-// library's wide-character tables natively.
+// library's wide-character tables natively. Plain Latin and Cyrillic, and every ASCII unit, are
+// mapped by the rename rules' own tests (tests/rename) through these same calls.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -19,14 +20,8 @@ struct case_row {
 };
 
 const case_row case_rows[] = {
-    {"latin", u"Hello World", u"hello world", u"HELLO WORLD"},
-    {"cyrillic", u"Привет Мир", u"привет мир", u"ПРИВЕТ МИР"},
-    {"yo", u"Ёлка и ёж", u"ёлка и ёж", u"ЁЛКА И ЁЖ"},
+    {"yo and the numero sign", u"Ёлка и ёж №", u"ёлка и ёж №", u"ЁЛКА И ЁЖ №"},
     {"ukrainian", u"Їжак Ґанок Єнот Іван", u"їжак ґанок єнот іван", u"ЇЖАК ҐАНОК ЄНОТ ІВАН"},
-    {"mixed", u"Слой_Layer 2 (копия)", u"слой_layer 2 (копия)", u"СЛОЙ_LAYER 2 (КОПИЯ)"},
-    {"digits and separators", u"0123456789 .,!()@#№~`;$%:^&?*-_+='<>\t/\\{}[]|",
-     u"0123456789 .,!()@#№~`;$%:^&?*-_+='<>\t/\\{}[]|",
-     u"0123456789 .,!()@#№~`;$%:^&?*-_+='<>\t/\\{}[]|"},
     {"latin-1 and greek", u"ÀÉÎõüÿ ΑΒΓδεζ", u"àéîõüÿ αβγδεζ", u"ÀÉÎÕÜŸ ΑΒΓΔΕΖ"},
     // Letters whose partner maps elsewhere keep their case both ways.
     {"one-way letters", u"İıςẞǅµß", u"İıςẞǅµß", u"İıςẞǅµß"},

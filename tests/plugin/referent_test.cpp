@@ -44,72 +44,56 @@ struct scene {
   void detach(custom_pointer r) {
     test::ops<tx_referent_interface_1>(referent_pair()).detach(referent_pair().object, r);
   }
+  // Attaches every referrer in order: each is appended and the count answered.
   void attach_all() {
-    for (auto& r : referrers) attach(r.pointer());
+    for (std::size_t i = 0; i < referrers.size(); ++i) {
+      EXPECT_EQ(attach(referrers[i].pointer()), i + 1);
+      EXPECT_TRUE(same(object->referrer_at(i), referrers[i].pointer())) << i;
+    }
+    EXPECT_FALSE(present(object->referrer_at(referrers.size())));
   }
 };
 
-TEST(Referent, AttachAppendsInOrderAndCounts) {
-  scene s({true, true, true});
-  EXPECT_EQ(s.attach(s.referrers[0].pointer()), 1u);
-  EXPECT_EQ(s.attach(s.referrers[1].pointer()), 2u);
-  EXPECT_EQ(s.attach(s.referrers[2].pointer()), 3u);
-  for (std::size_t i = 0; i < 3; ++i) {
-    EXPECT_TRUE(same(s.object->referrer_at(i), s.referrers[i].pointer())) << i;
-  }
-  EXPECT_FALSE(present(s.object->referrer_at(3)));
-  EXPECT_TRUE(s.log.empty());
-}
-
-// Each row: who holds, whom to detach, the calls the others see, whether the referent lives.
-struct detach_case {
-  const char* name;
-  std::vector<bool> holding;
-  std::size_t detached;
-  std::vector<std::string> calls;
-  bool survives;
-};
-
-void PrintTo(const detach_case& c, std::ostream* os) { *os << c.name; }
-
-class DetachRules : public ::testing::TestWithParam<detach_case> {};
-
-TEST_P(DetachRules, AsksInOrderAndReleasesWhenNobodyHolds) {
-  const detach_case& c = GetParam();
-  scene s(c.holding);
-  s.attach_all();
-  const custom_pointer referent = s.referent_pair();
-  s.detach(s.referrers[c.detached].pointer());
-  EXPECT_EQ(s.log, c.calls);
-  EXPECT_EQ(!s.destroyed, c.survives);
-  if (c.survives) {
-    EXPECT_EQ(s.object->referrer_count(), c.holding.size() - 1);
-  }
-  // Each referrer told of the release is handed the referent's own pair.
-  for (const test::referrer& r : s.referrers) {
-    if (r.last_released.object != nullptr) {
-      EXPECT_TRUE(same(r.last_released, referent)) << r.name;
+TEST(Referent, DetachAsksTheOthersInOrderAndReleasesWhenNobodyHolds) {
+  // Who holds, whom to detach, the calls the others see, whether the referent lives.
+  struct detach_case {
+    const char* name;
+    std::vector<bool> holding;
+    std::size_t detached;
+    std::vector<std::string> calls;
+    bool survives;
+  };
+  const detach_case cases[] = {
+      {"last referrer destroys without notice", {true}, 0, {}, false},
+      {"stops at the first holder", {false, false, true, true}, 0, {"B:holds", "C:holds"}, true},
+      {"nobody holds: each told in order",
+       {true, false, false},
+       0,
+       {"B:holds", "C:holds", "B:released", "C:released"},
+       false},
+      {"detaching the middle one asks the rest",
+       {false, true, false},
+       1,
+       {"A:holds", "C:holds", "A:released", "C:released"},
+       false},
+  };
+  for (const detach_case& c : cases) {
+    SCOPED_TRACE(c.name);
+    scene s(c.holding);
+    s.attach_all();
+    const custom_pointer referent = s.referent_pair();
+    s.detach(s.referrers[c.detached].pointer());
+    EXPECT_EQ(s.log, c.calls);
+    EXPECT_EQ(!s.destroyed, c.survives);
+    if (c.survives) {
+      EXPECT_EQ(s.object->referrer_count(), c.holding.size() - 1);
+    }
+    // Each referrer told of the release is handed the referent's own pair.
+    for (const test::referrer& r : s.referrers) {
+      EXPECT_TRUE(r.last_released.object == nullptr || same(r.last_released, referent)) << r.name;
     }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Referent, DetachRules,
-    ::testing::Values(
-        detach_case{"LastReferrerDestroysWithoutNotice", {true}, 0, {}, false},
-        detach_case{
-            "StopsAtFirstHolder", {false, false, true, true}, 0, {"B:holds", "C:holds"}, true},
-        detach_case{"NobodyHoldsTellsEachInOrder",
-                    {true, false, false},
-                    0,
-                    {"B:holds", "C:holds", "B:released", "C:released"},
-                    false},
-        detach_case{"DetachingTheMiddleOneAsksTheRest",
-                    {false, true, false},
-                    1,
-                    {"A:holds", "C:holds", "A:released", "C:released"},
-                    false}),
-    [](const ::testing::TestParamInfo<detach_case>& row) { return std::string(row.param.name); });
 
 TEST(Referent, NullEntryCountsAsHoldingWithoutAnyCall) {
   scene s({false});

@@ -65,12 +65,5 @@ TEST(CaseChange, AsciiMapsByLetterPairs) {
   EXPECT_EQ(result, raised);
 }
 
-TEST(CaseChange, IdleOnlyWhenUnchanged) {
-  EXPECT_TRUE(is_idle(case_mode::unchanged));
-  for (const int mode : {lower, upper, first_letter}) {
-    EXPECT_FALSE(is_idle(static_cast<case_mode>(mode))) << mode;
-  }
-}
-
 }  // namespace
 }  // namespace tx::rename

@@ -38,10 +38,5 @@ TEST(Insert, Table) {
   }
 }
 
-TEST(Insert, IdleExactlyWhenTextIsEmpty) {
-  EXPECT_TRUE(is_idle(insert_settings{u"", insert_mode::end}));
-  EXPECT_FALSE(is_idle(insert_settings{u"x", insert_mode::begin}));
-}
-
 }  // namespace
 }  // namespace tx::rename

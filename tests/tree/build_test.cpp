@@ -1,4 +1,6 @@
-// Building the tree from the reference host's project.
+// Building the tree from the reference host's project, and collecting the ticked elements from
+// it. (The collections in their order, each shown only when it has scenes, are in every printed
+// dialog of the end-to-end cases, over examples/small.json and examples/empty.json.)
 #include "project_fixture.h"
 
 namespace tx {
@@ -23,62 +25,27 @@ std::vector<std::u16string> row_captions(const prjrename_tree_item& node) {
   return captions;
 }
 
-const std::string one_scene = collection("S2", {scene("1", "Map", {layer("2", "Roads")})});
-
-TEST(BuildTree, CollectionsInOrderEachOnlyWhenNotEmpty) {
-  struct row {
-    const char* name;
-    std::string body;
-    std::vector<std::u16string> rows;
-  };
-  const std::string meta = R"("meta_id": "plugin_scn_2d_well_planshet_collection3", )";
-  const std::vector<row> rows{
-      {"nothing", R"("scenes_2d": {"caption": "S2", "scenes": []})", {}},
-      {"all four",
-       R"("scenes_2d": )" + one_scene + R"(, "scenes_3d": )" +
-           collection("S3", {scene("10", "Relief", {})}) + R"(, "layouts": )" +
-           collection("L", {scene("20", "Sheet", {})}) + R"(, "plugin_collections": [{)" + meta +
-           R"("caption": "Wells", "scenes": [)" + scene("30", "Well", {}) + "]}]",
-       {u"S2", u"S3", u"L", u"Wells"}},
-      {"layouts after 3D, no 2D",
-       R"("layouts": )" + collection("L", {scene("20", "Sheet", {})}) + R"(, "scenes_3d": )" +
-           collection("S3", {scene("10", "Relief", {})}),
-       {u"S3", u"L"}},
-  };
-  for (const row& r : rows) {
-    test::project_fixture p(project_json(r.body));
-    ASSERT_TRUE(p.loaded) << r.name << ": " << tx_host_project_error();
-    EXPECT_EQ(row_captions(*p.root), r.rows) << r.name;
-    EXPECT_FALSE(p.root->has_entity());
-  }
-}
-
+// (Another meta id before the exact one is examples/small.json, end to end.)
 TEST(BuildTree, OnlyTheFirstExactlyMatchingPluginCollectionIsShown) {
   auto plugin = [](const char* meta_id, const char* caption, bool with_scene, const char* uuid) {
     return std::string(R"({"meta_id": ")") + meta_id + R"(", "caption": ")" + caption +
            R"(", "scenes": [)" + (with_scene ? scene(uuid, "W", {}) : std::string()) + "]}";
   };
   const char* exact = "plugin_scn_2d_well_planshet_collection3";
-  struct row {
+  const struct {
     const char* name;
-    std::vector<std::string> collections;
+    std::string collections;
     std::vector<std::u16string> rows;
+  } rows[] = {
+      {"prefix and suffix do not match",
+       plugin("plugin_scn_2d_well_planshet_collection", "A", true, "1") + ", " +
+           plugin("plugin_scn_2d_well_planshet_collection3x", "B", true, "2"),
+       {}},
+      {"two exact", plugin(exact, "A", true, "1") + ", " + plugin(exact, "B", true, "2"), {u"A"}},
+      {"first is empty", plugin(exact, "A", false, "1") + ", " + plugin(exact, "B", true, "2"), {}},
   };
-  for (const row& r : std::vector<row>{
-           {"prefix and suffix do not match",
-            {plugin("plugin_scn_2d_well_planshet_collection", "A", true, "1"),
-             plugin("plugin_scn_2d_well_planshet_collection3x", "B", true, "2")},
-            {}},
-           {"first of two", {plugin(exact, "A", true, "1"), plugin(exact, "B", true, "2")}, {u"A"}},
-           {"first is empty", {plugin(exact, "A", false, "1"), plugin(exact, "B", true, "2")}, {}},
-           {"other meta id skipped",
-            {plugin("other", "X", true, "1"), plugin(exact, "B", true, "2")},
-            {u"B"}}}) {
-    std::string list;
-    for (std::size_t i = 0; i < r.collections.size(); ++i) {
-      list += (i ? ", " : "") + r.collections[i];
-    }
-    test::project_fixture p(project_json(R"("plugin_collections": [)" + list + "]"));
+  for (const auto& r : rows) {
+    test::project_fixture p(project_json(R"("plugin_collections": [)" + r.collections + "]"));
     ASSERT_TRUE(p.loaded) << r.name << ": " << tx_host_project_error();
     EXPECT_EQ(row_captions(*p.root), r.rows) << r.name;
   }
@@ -109,12 +76,37 @@ TEST(BuildTree, InvertLayersReversesEveryLevelAndGroupsArePreOrder) {
 }
 
 TEST(BuildTree, ANullProjectGivesAnEmptyRootAndReplacesTheOldTree) {
-  test::project_fixture p(project_json(R"("scenes_2d": )" + one_scene));
+  test::project_fixture p(test::map_project({layer("2", "A")}));
   ASSERT_TRUE(p.loaded);
   const prjrename_tree_group* old = p.root.get();
   build_tree(nullptr, p.root);
   EXPECT_NE(p.root.get(), old);
   EXPECT_EQ(p.root->visible_child_count(), 0u);
+}
+
+// The uuids collected from the ticked nodes, in the order of the walk.
+std::vector<std::uint64_t> collected(const prjrename_tree_item& root) {
+  uuid_set set;
+  root.collect_checked(set);
+  std::vector<std::uint64_t> ids;
+  for (const tx_uuid u : set) ids.push_back(u.opaque);
+  return ids;
+}
+
+// The collect walk: S2 (collection) > Map (scene) > G (group) > L1, L2 (layers); Map > L3 (layer).
+// (The check tools' propagation over the real tree is driven end to end.)
+TEST(TreeNodes, CollectionsAreNeverCollectedAndTheSceneWalkCanGoThroughGroups) {
+  test::project_fixture t(
+      test::map_project({layer("2", "G", {layer("3", "L1"), layer("4", "L2")}), layer("5", "L3")}));
+  ASSERT_TRUE(t.loaded) << tx_host_project_error();
+  t.at({0}).checked = true;
+  EXPECT_TRUE(collected(*t.root).empty());
+  t.at({0, 0, 0, 0}).checked = true;
+  t.at({0, 0, 1}).checked = true;
+  EXPECT_EQ(collected(*t.root), (std::vector<std::uint64_t>{3, 5}));
+  // Through the groups and their direct children only: L3 is under no group.
+  static_cast<prjrename_tree_scn&>(t.at({0, 0})).walk_children = false;
+  EXPECT_EQ(collected(*t.root), (std::vector<std::uint64_t>{3}));
 }
 
 }  // namespace

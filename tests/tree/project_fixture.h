@@ -37,33 +37,34 @@ inline std::string project_json(const std::string& body) {
   return text + "}";
 }
 
-// A layer entry; a group when it has children.
+// The items of a JSON array, without the brackets.
+inline std::string joined(const std::vector<std::string>& items) {
+  std::string text;
+  for (const std::string& item : items) text += (text.empty() ? "" : ", ") + item;
+  return text;
+}
+
+// A layer entry, expanded; a group when it has children.
 inline std::string layer(const char* uuid, const char* caption,
-                         const std::vector<std::string>& children = {}, bool group = false,
-                         bool expanded = true) {
-  std::string text = std::string(R"({"uuid": ")") + uuid + R"(", "caption": ")" + caption +
-                     R"(", "group": )" + (group || !children.empty() ? "true" : "false") +
-                     R"(, "expanded": )" + (expanded ? "true" : "false");
-  if (!children.empty()) {
-    text += R"(, "children": [)";
-    for (std::size_t i = 0; i < children.size(); ++i) text += (i ? ", " : "") + children[i];
-    text += "]";
-  }
-  return text + "}";
+                         const std::vector<std::string>& children = {}) {
+  return std::string(R"({"uuid": ")") + uuid + R"(", "caption": ")" + caption +
+         R"(", "expanded": true, "group": )" +
+         (children.empty() ? "false}" : "true, \"children\": [" + joined(children) + "]}");
 }
 
 inline std::string scene(const char* uuid, const char* caption,
                          const std::vector<std::string>& layers) {
-  std::string text =
-      std::string(R"({"uuid": ")") + uuid + R"(", "caption": ")" + caption + R"(", "layers": [)";
-  for (std::size_t i = 0; i < layers.size(); ++i) text += (i ? ", " : "") + layers[i];
-  return text + "]}";
+  return std::string(R"({"uuid": ")") + uuid + R"(", "caption": ")" + caption +
+         R"(", "layers": [)" + joined(layers) + "]}";
 }
 
 inline std::string collection(const char* caption, const std::vector<std::string>& scenes) {
-  std::string text = std::string(R"({"caption": ")") + caption + R"(", "scenes": [)";
-  for (std::size_t i = 0; i < scenes.size(); ++i) text += (i ? ", " : "") + scenes[i];
-  return text + "]}";
+  return std::string(R"({"caption": ")") + caption + R"(", "scenes": [)" + joined(scenes) + "]}";
+}
+
+// A project whose one 2D scene, "Map" (uuid 1), holds `layers`.
+inline std::string map_project(const std::vector<std::string>& layers) {
+  return project_json(R"("scenes_2d": )" + collection("S2", {scene("1", "Map", layers)}));
 }
 
 struct project_fixture {

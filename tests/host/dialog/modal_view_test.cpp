@@ -1,10 +1,12 @@
 // The modal dialog view reading its commands from a stream: a person is prompted, shown the
 // dialog and told of mistakes without ending the session; a piped script stops at its first
-// mistake. And what may follow a closed dialog in a script.
+// mistake. And what may follow a dialog never shown.
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <memory>
 #include <string>
+#include <string_view>
 
 #include "toolkit/docker.h"
 #include "tx/modal_dialog.h"
@@ -17,28 +19,23 @@ namespace {
 using host::dialog::modal_dialog_view;
 using host::dialog::stream_source;
 
-// A temporary file: what the view printed, or what a person typed.
-class temp_file {
- public:
-  temp_file() : file_(std::tmpfile()) {}
-  temp_file(const temp_file&) = delete;
-  temp_file& operator=(const temp_file&) = delete;
-  ~temp_file() { std::fclose(file_); }
-  std::FILE* get() const noexcept { return file_; }
-  std::string text() const {
-    std::rewind(file_);
-    std::string all;
-    for (int c = std::fgetc(file_); c != EOF; c = std::fgetc(file_)) all += static_cast<char>(c);
-    return all;
-  }
-  void write(std::string_view text) const {
-    std::fwrite(text.data(), 1, text.size(), file_);
-    std::rewind(file_);
-  }
+using file_pointer = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
- private:
-  std::FILE* file_;
-};
+// A temporary file holding `text` (what a person typed), read from its start; or, made empty,
+// where the view prints.
+file_pointer temp_file(std::string_view text = "") {
+  file_pointer file(std::tmpfile(), &std::fclose);
+  std::fwrite(text.data(), 1, text.size(), file.get());
+  std::rewind(file.get());
+  return file;
+}
+
+std::string written(std::FILE* file) {
+  std::rewind(file);
+  std::string all;
+  for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) all += static_cast<char>(c);
+  return all;
+}
 
 // A dialog frame without content or buttons: the stream's handling does not depend on them.
 struct empty_widget {
@@ -58,48 +55,39 @@ std::string rendered(empty_dialog& d) {
 }
 
 TEST(ModalDialogView, APersonIsPromptedShownTheDialogAndToldOfMistakes) {
-  temp_file in;
-  in.write("frob\n\nprint\n");
-  temp_file out;
+  const file_pointer in = temp_file("frob\n\nprint\n");
+  const file_pointer out = temp_file();
   stream_source commands("<stdin>", in.get(), out.get());
   modal_dialog_view view(commands, out.get(), 0);
   empty_dialog d(10);
   const std::string opened = rendered(d);
   EXPECT_EQ(show(view, d), -1);  // the end of the input closes it with the close box
   EXPECT_FALSE(view.failed());
-  EXPECT_EQ(out.text(), opened +
-                            "txhost> error: unknown command 'frob' (help lists them)\n"
-                            "txhost> txhost> " +
-                            opened + "txhost> ");
+  EXPECT_EQ(written(out.get()), opened +
+                                    "txhost> error: unknown command 'frob' (help lists them)\n"
+                                    "txhost> txhost> " +
+                                    opened + "txhost> ");
   EXPECT_EQ(host::dialog::next_after_dialog(commands, true).error, "");
 }
 
 TEST(ModalDialogView, APipedScriptStopsAtItsFirstMistake) {
-  temp_file in;
-  in.write("print\r\nset 1 \"open\nprint\n");
-  temp_file out;
+  const file_pointer in = temp_file("print\r\nset 1 \"open\nprint\n");
+  const file_pointer out = temp_file();
   stream_source commands("<stdin>", in.get(), nullptr);
   modal_dialog_view view(commands, out.get(), 0);
   empty_dialog d(10);
   EXPECT_EQ(show(view, d), -1);
   EXPECT_TRUE(view.failed());
   EXPECT_EQ(view.error(), "<stdin>:2: a quoted argument is not closed");
-  EXPECT_EQ(out.text(), "> print\n" + rendered(d));
+  EXPECT_EQ(written(out.get()), "> print\n" + rendered(d));
 }
 
-TEST(AfterTheDialog, OnlyReopenFollowsAClosedDialogAndNothingFollowsAnUnshownOne) {
-  using host::dialog::next_after_dialog;
-  using host::dialog::parse_script;
-  using host::dialog::script_source;
-  script_source commands("run.txt", parse_script("reopen\n# again\nreopen\nprint\n").commands);
-  EXPECT_TRUE(next_after_dialog(commands, true).reopen);
-  EXPECT_TRUE(next_after_dialog(commands, true).reopen);
-  const host::dialog::after_dialog rest = next_after_dialog(commands, true);
-  EXPECT_FALSE(rest.reopen);
-  EXPECT_EQ(rest.error, "run.txt:4: the dialog is already closed: only reopen can follow");
-
-  script_source unshown("run.txt", parse_script("# nothing shown\nreopen\n").commands);
-  const host::dialog::after_dialog refused = next_after_dialog(unshown, false);
+// After a closed dialog only reopen follows (the end-to-end cases reopen and
+// command_after_close); after a dialog never shown, nothing does.
+TEST(AfterTheDialog, NothingFollowsADialogNeverShown) {
+  host::dialog::script_source unshown(
+      "run.txt", host::dialog::parse_script("# nothing shown\nreopen\n").commands);
+  const host::dialog::after_dialog refused = host::dialog::next_after_dialog(unshown, false);
   EXPECT_FALSE(refused.reopen);
   EXPECT_EQ(refused.error, "run.txt:2: no dialog was shown for this command");
 }

@@ -25,17 +25,17 @@ std::string utf8(const std::filesystem::path& path);
 std::string read_file(const std::filesystem::path& path);
 
 // A caption fetched through a string adapter into the caller's string, which starts out as
-// `before` (so that a getter that writes nothing is seen).
+// "<untouched>" (so that a getter that writes nothing is seen).
 template <typename Handle>
-std::u16string caption(Handle* handle, void (*get)(Handle*, tx_string_adp*),
-                       std::u16string before = u"<untouched>") {
+std::u16string caption(Handle* handle, void (*get)(Handle*, tx_string_adp*)) {
+  std::u16string text = u"<untouched>";
   tx_string_adp* adapter =
-      tx_string_adp_create(&before, [](void* target, const char16_t* text, size_t length) {
-        static_cast<std::u16string*>(target)->assign(text, length);
+      tx_string_adp_create(&text, [](void* target, const char16_t* t, size_t length) {
+        static_cast<std::u16string*>(target)->assign(t, length);
       });
   get(handle, adapter);
   tx_string_adp_destroy(adapter);
-  return before;
+  return text;
 }
 
 inline std::u16string caption(tx_entity* entity) {

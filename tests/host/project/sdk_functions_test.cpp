@@ -19,8 +19,8 @@ tx_prj* open_small() {
   return tx_prj_get_instance();
 }
 
-// What each getter reads is compared whole with small.tree by txhost.project_small; here, what
-// that print cannot show.
+// What each getter reads, captions included, is compared whole with small.tree by
+// txhost.project_small; here, what that print cannot show.
 TEST(ProjectSdk, IndexesOutsideACollectionAnswerNothing) {
   tx_prj* const project = open_small();
   tx_scns_2d* const scenes_2d = tx_prj_get_scns_2d_ptr(project);
@@ -29,13 +29,13 @@ TEST(ProjectSdk, IndexesOutsideACollectionAnswerNothing) {
   }
   EXPECT_EQ(tx_scns_2d_get(scenes_2d, 2), nullptr);
   EXPECT_EQ(tx_scns_3d_get(tx_prj_get_scns_3d_ptr(project), 1), nullptr);
-  // The root group stands for no element and is a group.
+  // The project and the root group stand for no element; the root group is a group.
+  EXPECT_EQ(tx_entity_get_uuid(tx_prj_safe_upcast(project)).opaque, 0u);
   tx_lr_group* const map_root = tx_scn_get_lr_group_ptr(tx_scns_2d_get(scenes_2d, 0));
   EXPECT_EQ(tx_entity_get_uuid(tx_entities_safe_upcast(tx_lr_group_safe_upcast(map_root))).opaque,
             0u);
   EXPECT_TRUE(tx_lr_group_is_group(map_root));
   EXPECT_EQ(tx_lr_group_get_child_by_index(map_root, 2), nullptr);
-  EXPECT_EQ(tx_prj_get_instance(), project);
 }
 
 TEST(ProjectSdk, InvertLayersFollowsTheProjectAndTheHostsSetting) {
@@ -56,34 +56,6 @@ TEST(ProjectSdk, InvertLayersFollowsTheProjectAndTheHostsSetting) {
   EXPECT_TRUE(tx_options_get_invert_layers());
   tx_host_project_set_invert_layers(false);
   EXPECT_FALSE(tx_options_get_invert_layers());
-}
-
-TEST(ProjectSdk, TheProjectIsAnEntityWithItsCaption) {
-  tx_prj* const project = open_small();
-  tx_entity* const entity = tx_prj_safe_upcast(project);
-  ASSERT_NE(entity, nullptr);
-  EXPECT_EQ(caption(entity), u"Малый проект");
-  EXPECT_EQ(tx_entity_get_uuid(entity).opaque, 0u);
-  EXPECT_EQ(tx_prj_get_instance(), project);
-}
-
-TEST(ProjectSdk, EveryCaptionGetterReplacesTheCallersString) {
-  tx_prj* const project = open_small();
-  tx_scns_2d* const scenes = tx_prj_get_scns_2d_ptr(project);
-  tx_scn* const map = tx_scns_2d_get(scenes, 0);
-  tx_lr_group* const roads = tx_lr_group_get_child_by_index(tx_scn_get_lr_group_ptr(map), 0);
-  const std::u16string long_before(300, u'x');
-  EXPECT_EQ(caption(tx_prj_safe_upcast(project), &tx_entity_get_wcaption, long_before),
-            u"Малый проект");
-  EXPECT_EQ(caption(tx_scns_2d_safe_upcast(scenes), &tx_entities_get_wcaption, long_before),
-            u"2D-сцены");
-  EXPECT_EQ(caption(map, &tx_scn_get_wcaption, long_before), u"Карта");
-  EXPECT_EQ(caption(roads, &tx_lr_group_get_wcaption, long_before), u"Дороги");
-  // An empty caption empties the string.
-  tx_entity_set_wcaption(tx_entities_safe_upcast(tx_lr_group_safe_upcast(roads)), u"");
-  EXPECT_EQ(caption(roads, &tx_lr_group_get_wcaption, long_before), u"");
-  // A null adapter is ignored.
-  tx_scn_get_wcaption(map, nullptr);
 }
 
 TEST(ProjectSdk, NullHandlesAnswerNothingAndChangeNothing) {

@@ -64,10 +64,6 @@ TEST(Toolbar, FindsAToolByItsId) {
   for (const char16_t* id : {u"e", u"", static_cast<const char16_t*>(nullptr)}) {
     EXPECT_FALSE(present(find(set.object, id)));
   }
-  const toolkit::tools_visitor::toolset_state_impl<four_toolbar> state(bar);
-  std::vector<int> groups;
-  for (const auto& e : state.entries()) groups.push_back(e.group);
-  EXPECT_EQ(groups, (std::vector<int>{0, 0, 1, 2}));
 }
 
 TEST(ActionTool, TheStateHookIsCalledOnlyWhenEnabledOrVisibleReallyChanges) {
