@@ -1,5 +1,6 @@
 // Reading a project document into a new project: every field checked for presence and type,
 // every uuid for form and uniqueness, every key known. The first fault found is the refusal.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <unordered_map>
@@ -170,6 +171,30 @@ project_file_error describe(const json::parse_error& error) {
   return {"byte " + std::to_string(error.byte), std::string(message)};
 }
 
+// A number too large for any number type ("[json.exception.out_of_range.406] number overflow
+// parsing '1E999'"): the message quotes the number but gives no place, so the place is where that
+// number first stands in the text. Any other failure of the parser is told as it is.
+project_file_error describe(const json::exception& error, std::string_view text) {
+  std::string_view message = error.what();
+  if (const std::size_t end = message.find("] "); end != std::string_view::npos) {
+    message.remove_prefix(end + 2);
+  }
+  std::string where;
+  const std::size_t open = message.find('\'');
+  const std::size_t close = message.rfind('\'');
+  if (open != std::string_view::npos && close > open + 1) {
+    const std::size_t at = text.find(message.substr(open + 1, close - open - 1));
+    if (at != std::string_view::npos) {
+      const std::string_view before = text.substr(0, at);
+      const std::size_t line_start = before.rfind('\n');
+      const std::size_t column = line_start == std::string_view::npos ? at + 1 : at - line_start;
+      where = "line " + std::to_string(std::count(before.begin(), before.end(), '\n') + 1) +
+              ", column " + std::to_string(column);
+    }
+  }
+  return {std::move(where), std::string(message)};
+}
+
 }  // namespace
 
 std::unique_ptr<tx_prj> parse_project(std::string_view text, project_file_error& error) {
@@ -178,6 +203,9 @@ std::unique_ptr<tx_prj> parse_project(std::string_view text, project_file_error&
     document = json::parse(text);
   } catch (const json::parse_error& e) {
     error = describe(e);
+    return nullptr;
+  } catch (const json::exception& e) {
+    error = describe(e, text);
     return nullptr;
   }
   try {

@@ -31,6 +31,7 @@ std::string hundredth_group_children() {
 const std::vector<refusal> refusals = {
     {bad_file("bad_json.json"), "line 6, column 11",
      "syntax error while parsing object - unexpected string literal; expected '}'"},
+    {bad_file("number_overflow.json"), "line 5, column 32", "number overflow parsing '1E999'"},
     {bad_file("not_an_object.json"), "", "expected an object, found an array"},
     {bad_file("unknown_format.json"), "/format",
      "unknown format \"qgis-project\" (expected \"tarvex-project\")"},
