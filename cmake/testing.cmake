@@ -1,6 +1,6 @@
 # GoogleTest, built from the Debian source package for the target being built. Under the cross
-# build every test program runs through wine-run.sh, which keeps one wineserver alive between
-# programs; the last test stops it.
+# build every test program runs through wine-run.sh, which keeps one wineserver (and its
+# desktop) alive between programs; the last test stops it.
 set(BUILD_GMOCK OFF CACHE BOOL "" FORCE)
 set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
 set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
@@ -9,6 +9,9 @@ include(GoogleTest)
 
 if(CMAKE_CROSSCOMPILING)
   set(TX_WINEPREFIX ${CMAKE_BINARY_DIR}/wineprefix)
+  add_executable(tx_wine_desktop_holder ${CMAKE_SOURCE_DIR}/cmake/wine_desktop_holder.c)
+  target_link_libraries(tx_wine_desktop_holder PRIVATE tx_warnings)
+  set(TX_DESKTOP_HOLDER ${CMAKE_BINARY_DIR}/bin/tx_wine_desktop_holder.exe)
   configure_file(${CMAKE_SOURCE_DIR}/cmake/wine-run.sh.in ${CMAKE_BINARY_DIR}/wine-run.sh
     FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE
     @ONLY)
