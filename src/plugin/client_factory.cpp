@@ -14,6 +14,12 @@ const localizer_service_visitor_impl::table_type* localizer_service_visitor_impl
   return &table;
 }
 
+const localizer_visitor_impl::table_type* localizer_visitor_impl::table() noexcept {
+  static constexpr table_type table{&root_slot<localizer_visitor_impl>,
+                                    slot<&localizer_visitor_impl::visit>};
+  return &table;
+}
+
 const localizer_client_impl::table_type* localizer_client_impl::table() noexcept {
   static constexpr table_type table{&root_slot<localizer_client_impl>,
                                     slot<&localizer_client_impl::module_name>};
@@ -43,11 +49,29 @@ void client_factory::visit(custom_pointer registry, custom_pointer) {
                                         TX_LOCALIZER_NAMESPACE_KEY, registry_visitor_.pointer());
 }
 
+int client_factory::registry_visitor::query(const char* name, const void** table,
+                                            void** object) noexcept {
+  if (match<service_registry_visitor_impl>(this, name, table, object) == 0) return 0;
+  return match<localizer_service_visitor_impl>(this, name, table, object);
+}
+
+custom_pointer client_factory::registry_visitor::root() noexcept {
+  return root_of(static_cast<service_registry_visitor_impl*>(this));
+}
+
 void client_factory::registry_visitor::visit(const char16_t*, custom_pointer service) {
+  owner_.ask_localizer_of(service);
+}
+
+void client_factory::registry_visitor::visit(custom_pointer service) {
+  owner_.ask_localizer_of(service);
+}
+
+void client_factory::ask_localizer_of(custom_pointer service) {
   const custom_pointer localizers = query_interface<tx_localizer_service_interface_1>(service);
-  call<tx_localizer_service_interface_1>(
-      localizers, &tx_localizer_service_interface_1::visit_localizer, owner_.client_.pointer(),
-      owner_.localizer_visitor_.pointer());
+  call<tx_localizer_service_interface_1>(localizers,
+                                         &tx_localizer_service_interface_1::visit_localizer,
+                                         client_.pointer(), localizer_visitor_.pointer());
 }
 
 }  // namespace util

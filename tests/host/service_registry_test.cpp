@@ -52,7 +52,7 @@ TEST(ServiceRegistry, AnswersItsInterfaceAndTheLocalizerKeyOnlyWhileSwitchedOn) 
   // visitor to take it, and records every client's module (empty for none).
   test::localizer_client client{{}, u"txk_project_rename"};
   test::pair_sink localizers;
-  const tx_custom_pointer to = localizers.as<tx_localizer_service_visitor_interface_1>();
+  const tx_custom_pointer to = localizers.as<tx_localizer_visitor_interface_1>();
   for (const auto& [c, v] : {std::pair{client.pointer(), to}, std::pair{tx_custom_pointer{}, to},
                              std::pair{client.pointer(), tx_custom_pointer{}}}) {
     call(service, &tx_localizer_service_interface_1::visit_localizer, c, v);
@@ -62,6 +62,47 @@ TEST(ServiceRegistry, AnswersItsInterfaceAndTheLocalizerKeyOnlyWhileSwitchedOn) 
   EXPECT_TRUE(same(localizers.pairs[1], registry.localizer().pair()));
   EXPECT_EQ(registry.localizer_entry().clients(),
             (std::vector<std::u16string>{u"txk_project_rename", u"", u"txk_project_rename"}));
+}
+
+// A plug-in's registry visitor that also takes the localizer service through its own visitor.
+struct typed_registry_visitor : registry_visitor {
+  test::pair_sink services;
+  static int query(void* s, const char* name, const void** table, void** object) {
+    auto& self = *static_cast<typed_registry_visitor*>(s);
+    tx_custom_pointer found{};
+    if (std::string_view(name) == TX_LOCALIZER_SERVICE_VISITOR_INTERFACE_1) {
+      found = self.services.as<tx_localizer_service_visitor_interface_1>();
+    }
+    *table = found.table;
+    *object = found.object;
+    return found.table != nullptr ? 0 : 1;
+  }
+  static tx_custom_pointer root(void* s) {
+    static constexpr tx_root_interface table{&query};
+    return {&table, s};
+  }
+  tx_custom_pointer pair() {
+    static constexpr tx_service_registry_visitor_interface_0 table{
+        &root, [](void* s, const char16_t* key, tx_custom_pointer service) {
+          static_cast<typed_registry_visitor*>(s)->entries.emplace_back(key, service);
+        }};
+    return {&table, this};
+  }
+};
+
+TEST(ServiceRegistry, TheLocalizerServiceGoesToAVisitorMadeForIt) {
+  service_registry registry;
+  registry.set_localizer_enabled(true);
+  test::plugin_service other;
+  registry.set_service(u"tx.test/a", other.utility_pair());
+  typed_registry_visitor visitor;
+  ask(registry, TX_LOCALIZER_NAMESPACE_KEY, visitor.pair());
+  ask(registry, u"tx.test/a", visitor.pair());
+  ASSERT_EQ(visitor.services.pairs.size(), 1u);
+  EXPECT_TRUE(present(query(visitor.services.pairs[0], TX_LOCALIZER_SERVICE_INTERFACE_1)));
+  // Any other service still comes with its key through the registry visitor.
+  ASSERT_EQ(visitor.entries.size(), 1u);
+  EXPECT_EQ(visitor.entries[0].first, u"tx.test/a");
 }
 
 TEST(ServiceRegistry, FiledServicesAreFoundByExactKey) {

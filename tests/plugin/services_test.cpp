@@ -70,9 +70,10 @@ TEST(Registry, AFactoryIsListedForItsLifetimeOnly) {
 struct published {
   test::publish_sink sink;
   test::registry registry;
-  explicit published(bool utilities = true, bool localizer = false) {
+  explicit published(bool utilities = true, bool localizer = false, bool typed_route = false) {
     sink.offers_utilities = utilities;
     registry.has_localizer = localizer;
+    registry.typed_route = typed_route;
     bundle().visit_services(nullptr, sink.pointer());
     sink.visit_factories(registry.pointer());
   }
@@ -119,10 +120,13 @@ TEST(UtilityService, TheSameServiceIsPublishedOnEveryVisitAndOnlyWhereAsked) {
   EXPECT_EQ(without_utilities.sink.dialog_services.pairs.size(), 2u);
 }
 
-TEST(ClientFactory, TheHostsLocalizerIsKeptWhileOffered) {
-  {
-    published with(true, true);
-    ASSERT_TRUE(present(localizer()));
+TEST(ClientFactory, TheHostsLocalizerIsKeptWhileOfferedByEitherRoute) {
+  // The registry hands the localizer service as any service, or through the localizer service
+  // visitor; either way the localizer itself arrives through the localizer visitor.
+  for (const bool typed_route : {false, true}) {
+    published with(true, true, typed_route);
+    ASSERT_TRUE(present(localizer())) << typed_route;
+    EXPECT_EQ(with.registry.typed_handovers, typed_route ? 1 : 0);
     EXPECT_EQ(resource::string(10), u"from the localizer");
     ASSERT_EQ(with.registry.localizer.requests.size(), 1u);
     EXPECT_EQ(with.registry.localizer.requests[0].reference, 10);

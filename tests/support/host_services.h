@@ -95,9 +95,13 @@ struct publish_sink : recorder<publish_sink> {
   }
 };
 
-// A host service registry that files `localizer` under the localizer key while `has_localizer`.
+// A host service registry that files `localizer` under the localizer key while `has_localizer`;
+// with `typed_route` it hands the localizer service to a visitor that answers
+// tx_localizer_service_visitor_interface_1 through that interface, as the reference host does.
 struct registry : recorder<registry> {
   bool has_localizer = true;
+  bool typed_route = false;
+  int typed_handovers = 0;
   fake_localizer localizer;
 
   static int query(void* s, const char* name, const void** table, void** object) {
@@ -111,13 +115,20 @@ struct registry : recorder<registry> {
   static constexpr tx_root_interface root_table{&query};
   static constexpr tx_localizer_service_interface_1 service_table{
       &root, [](void* s, tx_custom_pointer, tx_custom_pointer visitor) {
-        ops<tx_localizer_service_visitor_interface_1>(visitor).visit(visitor.object,
-                                                                     self(s).localizer.pointer());
+        ops<tx_localizer_visitor_interface_1>(visitor).visit(visitor.object,
+                                                             self(s).localizer.pointer());
       }};
   static constexpr tx_service_registry_interface_0 table{
       &root, [](void* s, const char16_t* key, tx_custom_pointer visitor) {
         if (!self(s).has_localizer || std::u16string_view(key) != TX_LOCALIZER_NAMESPACE_KEY)
           return;
+        const tx_custom_pointer typed = ask(visitor, TX_LOCALIZER_SERVICE_VISITOR_INTERFACE_1);
+        if (self(s).typed_route && typed.table != nullptr) {
+          ++self(s).typed_handovers;
+          ops<tx_localizer_service_visitor_interface_1>(typed).visit(typed.object,
+                                                                     {&service_table, s});
+          return;
+        }
         ops<tx_service_registry_visitor_interface_0>(visitor).visit(visitor.object, key,
                                                                     {&service_table, s});
       }};

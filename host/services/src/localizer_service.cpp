@@ -21,7 +21,7 @@ tx_custom_pointer localizer_service::pair() noexcept { return {&kTable, object_h
 void localizer_service::visit_localizer(tx_custom_pointer client, tx_custom_pointer visitor) {
   const char16_t* module = call(client, &tx_localizer_client_interface_0::module_name);
   clients_.emplace_back(module != nullptr ? module : u"");
-  call(visitor, &tx_localizer_service_visitor_interface_1::visit,
+  call(visitor, &tx_localizer_visitor_interface_1::visit,
        present(handed_out_) ? handed_out_ : localizer_.pair());
 }
 

@@ -37,9 +37,16 @@ void service_registry::visit_service(const char16_t* key, tx_custom_pointer visi
     found = it->second;
   }
   // `found` is a copy: the visitor may change the registry while it is called.
-  if (present(found)) {
-    call(visitor, &tx_service_registry_visitor_interface_0::visit, wanted.c_str(), found);
+  if (!present(found)) return;
+  // The localizer service goes to a visitor made for it when the visitor is one.
+  if (wanted == TX_LOCALIZER_NAMESPACE_KEY) {
+    const tx_custom_pointer typed = host::query(visitor, TX_LOCALIZER_SERVICE_VISITOR_INTERFACE_1);
+    if (present(typed)) {
+      call(typed, &tx_localizer_service_visitor_interface_1::visit, found);
+      return;
+    }
   }
+  call(visitor, &tx_service_registry_visitor_interface_0::visit, wanted.c_str(), found);
 }
 
 std::span<const interface_entry> service_registry::interfaces() const noexcept {

@@ -66,7 +66,7 @@ const tx_service_factory_table kFactoryTable{
         if (service.table == nullptr) continue;
         ops<tx_localizer_service_interface_1>(service).visit_localizer(
             service.object, g_client.pointer(),
-            g_localizers.as<tx_localizer_service_visitor_interface_1>());
+            g_localizers.as<tx_localizer_visitor_interface_1>());
       }
       publish(sink, TX_UTILITY_SERVICE_VISITOR_INTERFACE_2, g_services[0].utility_pair());
       publish(sink, TX_MODAL_DIALOG_SERVICE_VISITOR_INTERFACE_102, g_services[1].dialog_pair());

@@ -19,7 +19,7 @@ class localizer_service final : public interface_object {
 
   // Records the module name that `client` (tx_localizer_client_interface_0) reports (empty
   // when it has none), then hands the localizer to `visitor`
-  // (tx_localizer_service_visitor_interface_1; a null pair is skipped).
+  // (tx_localizer_visitor_interface_1; a null pair is skipped).
   void visit_localizer(tx_custom_pointer client, tx_custom_pointer visitor);
 
   // Hands out `localizer` (a tx_localizer_interface_1 pair, borrowed: it must outlive every

@@ -39,8 +39,10 @@ class service_registry final : public interface_object {
   recording_localizer& localizer() noexcept { return localizer_; }
   const localizer_service& localizer_entry() const noexcept { return localizer_service_; }
 
-  // Records `key`, then calls `visitor` (tx_service_registry_visitor_interface_0) once with
-  // the service filed under it; nothing when none is, or when the visitor is a null pair.
+  // Records `key`, then calls `visitor` once with the service filed under it: the localizer
+  // service through tx_localizer_service_visitor_interface_1 when the visitor answers it, any
+  // other through tx_service_registry_visitor_interface_0; nothing when no service is filed,
+  // or when the visitor is a null pair.
   void visit_service(const char16_t* key, tx_custom_pointer visitor);
 
   // The keys asked for, oldest first.
