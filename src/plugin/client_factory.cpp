@@ -26,15 +26,6 @@ const localizer_client_impl::table_type* localizer_client_impl::table() noexcept
   return &table;
 }
 
-custom_client_factory_impl::custom_client_factory_impl(const char16_t* key)
-    : basic_service_factory_impl(key) {
-  factory_registry::instance().add(this);
-}
-
-custom_client_factory_impl::~custom_client_factory_impl() {
-  factory_registry::instance().remove(this);
-}
-
 namespace util {
 
 client_factory::client_factory(const char16_t* module_name) : client_(module_name) {}

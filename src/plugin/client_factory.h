@@ -67,14 +67,10 @@ class localizer_client_impl : public interface_impl {
 };
 
 // A client factory registers itself like a service factory; it publishes nothing.
-class custom_client_factory_impl : public basic_service_factory_impl {
- public:
-  custom_client_factory_impl(const custom_client_factory_impl&) = delete;
-  custom_client_factory_impl& operator=(const custom_client_factory_impl&) = delete;
-
+class custom_client_factory_impl : public registered_factory {
  protected:
-  explicit custom_client_factory_impl(const char16_t* key = nullptr);
-  ~custom_client_factory_impl();
+  explicit custom_client_factory_impl(const char16_t* key = nullptr) : registered_factory(key) {}
+  ~custom_client_factory_impl() = default;
 };
 
 namespace util {

@@ -25,13 +25,10 @@ void factory_registry::remove(const basic_service_factory_impl* factory) noexcep
   std::erase(entries_, factory);
 }
 
-custom_service_factory_impl::custom_service_factory_impl(const char16_t* key)
-    : basic_service_factory_impl(key) {
+registered_factory::registered_factory(const char16_t* key) : basic_service_factory_impl(key) {
   factory_registry::instance().add(this);
 }
 
-custom_service_factory_impl::~custom_service_factory_impl() {
-  factory_registry::instance().remove(this);
-}
+registered_factory::~registered_factory() { factory_registry::instance().remove(this); }
 
 }  // namespace tx

@@ -61,16 +61,23 @@ class factory_registry {
   std::vector<basic_service_factory_impl*> entries_;
 };
 
-// A factory that registers itself for its lifetime. Not copyable: the registry holds its
-// address.
-class custom_service_factory_impl : public basic_service_factory_impl {
+// A factory that is in the registry for its lifetime: what custom service factories and custom
+// client factories share. Not copyable: the registry holds its address.
+class registered_factory : public basic_service_factory_impl {
  public:
-  custom_service_factory_impl(const custom_service_factory_impl&) = delete;
-  custom_service_factory_impl& operator=(const custom_service_factory_impl&) = delete;
+  registered_factory(const registered_factory&) = delete;
+  registered_factory& operator=(const registered_factory&) = delete;
 
  protected:
-  explicit custom_service_factory_impl(const char16_t* key = nullptr);
-  ~custom_service_factory_impl();
+  explicit registered_factory(const char16_t* key);
+  ~registered_factory();
+};
+
+// A factory that publishes services to the host.
+class custom_service_factory_impl : public registered_factory {
+ protected:
+  explicit custom_service_factory_impl(const char16_t* key = nullptr) : registered_factory(key) {}
+  ~custom_service_factory_impl() = default;
 };
 
 }  // namespace tx
