@@ -1,10 +1,12 @@
 // Grid layouts: a fixed number of rows and columns of cells, each empty or holding one element.
 //
-// grid_layout<R, C> is used only as a single row or a single column, so its cell for (row,
-// column) is found at index row + column, which is its row-major index in both shapes.
-// grid_span_layout<R, C> is a true grid (row-major index row × C + column) whose elements may
-// span the rest of their row or column. Both are filled through a cell cursor that advances
-// even over an element that is absent, leaving that cell empty.
+// Cells are stored row by row. The host's visit cell takes the cell at index row + column in
+// every grid: grid_layout<R, C> is used only as a single row or a single column, where that sum
+// is the cell's row-major index. grid_span_layout<R, C> is a true grid whose elements may span
+// the rest of their row or column; there the sum reaches another cell, and a host that lays it
+// out asks visit grid cell, which takes the cell at row × C + column and reports its span. Both
+// are filled through a cell cursor that advances even over an element that is absent, leaving
+// that cell empty.
 #pragma once
 
 #include <array>
@@ -35,8 +37,8 @@ class grid_layout_impl : public interface_impl {
   virtual bool row_natural(std::int32_t row) = 0;
   virtual void visit_cell(std::int32_t row, std::int32_t column, custom_pointer visitor) = 0;
   virtual void set_view(custom_pointer view) = 0;
-  virtual void cell_span(std::int32_t row, std::int32_t column, std::int32_t* rows,
-                         std::int32_t* columns) = 0;
+  virtual void visit_grid_cell(std::int32_t row, std::int32_t column, std::int32_t* rows,
+                               std::int32_t* columns, custom_pointer visitor) = 0;
 
  protected:
   ~grid_layout_impl() = default;
@@ -106,13 +108,15 @@ class grid_layout_base : public generic_element_impl<grid_layout_impl> {
   bool row_natural(std::int32_t r) override { return line(rows_, r).natural; }
   void visit_cell(std::int32_t r, std::int32_t c, custom_pointer visitor) override {
     if (r < 0 || c < 0 || r >= R || c >= C) return;
-    visit_element(visitor, cell(Derived::cell_index(r, c)));
+    visit_element(visitor, cell(r + c));
   }
-  void cell_span(std::int32_t r, std::int32_t c, std::int32_t* rows,
-                 std::int32_t* columns) override {
+  void visit_grid_cell(std::int32_t r, std::int32_t c, std::int32_t* rows, std::int32_t* columns,
+                       custom_pointer visitor) override {
     const auto [span_rows, span_columns] = static_cast<Derived*>(this)->span_of(r, c);
     if (rows != nullptr) *rows = span_rows;
     if (columns != nullptr) *columns = span_columns;
+    if (r < 0 || c < 0 || r >= R || c >= C) return;
+    visit_element(visitor, cell(r * C + c));
   }
 
  protected:
@@ -142,10 +146,6 @@ class grid_layout final : public detail::grid_layout_base<R, C, grid_layout<R, C
 
  public:
   grid_layout() = default;
-  // Its cells lie in one line, so row + column is the cell's index.
-  static constexpr int cell_index(std::int32_t row, std::int32_t column) noexcept {
-    return row + column;
-  }
   std::pair<std::int32_t, std::int32_t> span_of(std::int32_t, std::int32_t) const noexcept {
     return {1, 1};
   }

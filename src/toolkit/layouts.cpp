@@ -22,7 +22,7 @@ const grid_layout_impl::table_type* grid_layout_impl::table() noexcept {
       slot<&I::row_natural>,
       slot<&I::visit_cell>,
       slot<&I::set_view>,
-      slot<&I::cell_span>,
+      slot<&I::visit_grid_cell>,
   };
   return &table;
 }

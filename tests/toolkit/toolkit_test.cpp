@@ -67,6 +67,34 @@ TEST(GridSpanLayout, ASpanningElementCoversTheRestOfItsRowOrColumn) {
   }
 }
 
+// Visit cell takes index row + column in every grid, span grids included; visit grid cell takes
+// the true cell, row × columns + column, with its span.
+TEST(GridSpanLayout, VisitCellAddsRowAndColumnVisitGridCellFindsTheTrueCell) {
+  grid_span_layout<3, 2> grid;
+  std::vector<std::unique_ptr<label>> labels;
+  for (int i = 0; i < 6; ++i) {
+    labels.push_back(std::make_unique<label>(10));
+    grid.place_next(labels.back()->pointer());
+  }
+  const custom_pointer g = grid.pointer();
+  const auto& t = ops<tx_grid_layout_interface_91>(g);
+  for (const auto& [r, c] : {std::pair{0, 1}, std::pair{1, 0}, std::pair{1, 1}, std::pair{2, 1}}) {
+    test::element_sink by_sum, by_cell;
+    t.visit_cell(g.object, r, c, by_sum.pointer());
+    std::int32_t rows = 0, columns = 0;
+    t.visit_grid_cell(g.object, r, c, &rows, &columns, by_cell.pointer());
+    ASSERT_EQ(by_sum.elements.size(), 1u);
+    ASSERT_EQ(by_cell.elements.size(), 1u);
+    EXPECT_EQ(by_sum.elements[0].object, labels[static_cast<std::size_t>(r + c)]->pointer().object);
+    EXPECT_EQ(by_cell.elements[0].object,
+              labels[static_cast<std::size_t>(r * 2 + c)]->pointer().object);
+    EXPECT_EQ(std::pair(rows, columns), std::pair(1, 1));
+  }
+  test::element_sink outside;
+  t.visit_grid_cell(g.object, 3, 0, nullptr, nullptr, outside.pointer());
+  EXPECT_TRUE(outside.elements.empty());
+}
+
 // The caption and the content are what the end-to-end cases print; the second text is not.
 TEST(Groupbox, ASecondTextOfZeroIsAbsent) {
   groupbox<1, 1> box(125);

@@ -92,10 +92,17 @@ class walker {
     using table = tx_grid_layout_interface_91;
     const std::int32_t rows = std::clamp(call(grid, &table::row_count), 0, kMaxLines);
     const std::int32_t columns = std::clamp(call(grid, &table::column_count), 0, kMaxLines);
+    // Visit cell finds (row, column) at index row + column, right for a single row or column
+    // only; a grid of several rows and columns is read by its true cells.
+    const bool single_line = rows <= 1 || columns <= 1;
     for (std::int32_t r = 0; r < rows; ++r) {
       for (std::int32_t c = 0; c < columns; ++c) {
         element_collector cell;
-        call(grid, &table::visit_cell, r, c, cell.pair());
+        if (single_line) {
+          call(grid, &table::visit_cell, r, c, cell.pair());
+        } else {
+          call(grid, &table::visit_grid_cell, r, c, nullptr, nullptr, cell.pair());
+        }
         for (const tx_custom_pointer child : cell.elements()) element_at(child, depth + 1);
       }
     }

@@ -150,6 +150,7 @@ class hostile_walker final : public element_listener {
     for (std::int32_t r = 0; r < rows; ++r) {
       for (std::int32_t c = 0; c < columns; ++c) {
         made(1, [g, r, c] { call(g, &table::visit_cell, r, c, kNull); });
+        made(1, [g, r, c] { call(g, &table::visit_grid_cell, r, c, nullptr, nullptr, kNull); });
       }
     }
     made(1, [g] { call(g, &table::set_view, kNull); });

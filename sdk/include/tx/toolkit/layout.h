@@ -24,13 +24,20 @@ typedef struct tx_grid_layout_interface_91 {
   int32_t (*row_minimum)(void* self, int32_t row);
   bool (*column_natural)(void* self, int32_t column);
   bool (*row_natural)(void* self, int32_t row);
-  /* Hands the cell's element to a tx_element_visitor_interface_0; nothing for an empty cell or
-     a position outside the grid. */
+  /* Hands the element of the cell at index row + column (cells counted row by row) to a
+     tx_element_visitor_interface_0; nothing for an empty cell or a position outside the grid.
+     Every grid answers by this one rule, which finds the cell at (row, column) in a grid of one
+     row or one column; in a grid of several rows and columns it finds another cell, so a host
+     laying out such a grid asks visit_grid_cell instead. */
   void (*visit_cell)(void* self, int32_t row, int32_t column, tx_custom_pointer visitor);
   void (*set_view)(void* self, tx_custom_pointer view);
-  /* The number of rows and columns the cell's element covers, from its own cell: 1 × 1 for a
-     plain cell; a spanning element leaves the cells it covers empty. */
-  void (*cell_span)(void* self, int32_t row, int32_t column, int32_t* rows, int32_t* columns);
+  /* The cell at (row, column) itself, index row × column count + column, in any grid: hands
+     its element to a tx_element_visitor_interface_0 (nothing for an empty cell or a position
+     outside the grid) and writes the number of rows and columns the element covers from that
+     cell, 1 × 1 for a plain cell (a spanning element leaves the cells it covers empty); a null
+     out is skipped. */
+  void (*visit_grid_cell)(void* self, int32_t row, int32_t column, int32_t* rows, int32_t* columns,
+                          tx_custom_pointer visitor);
 } tx_grid_layout_interface_91;
 
 /* A frame with a caption around one inner grid. */
