@@ -317,6 +317,10 @@ def main():
     write(PLUGIN_BITMAPS / "expand.bmp", bmp_file(EXPAND, TOOL_PALETTE))
     write(PLUGIN_BITMAPS / "collapse.bmp", bmp_file(COLLAPSE, TOOL_PALETTE))
     write(BASIC_RESOURCES / "bitmaps" / "select_all.bmp", bmp_file(SELECT_ALL, TOOL_PALETTE))
+    # The English copy of the same tool image: its tick is blue, so that a reader can tell
+    # which language's copy it was given.
+    write(BASIC_RESOURCES / "bitmaps" / "select_all_en.bmp",
+          bmp_file(SELECT_ALL.replace("G", "B"), TOOL_PALETTE))
     write(BASIC_RESOURCES / "bitmaps" / "clear_selection.bmp",
           bmp_file(CLEAR_SELECTION, TOOL_PALETTE))
     write(BASIC_RESOURCES / "bitmaps" / "invert_selection.bmp",

@@ -13,7 +13,17 @@ bool bitmap::load(std::int32_t reference, bool transparent) noexcept {
   transparent_ = transparent;
   const auto where = locate(reference);
   if (!where) return false;
-  auto loaded = platform::load_bitmap(where->module, where->id);
+  // The plug-in's own images serve every language. The host's basic library may hold a copy
+  // for the current language (at id + the language offset, as its strings): that one first.
+  std::optional<platform::bitmap_pixels> loaded;
+  if (reference > 0) {
+    loaded = platform::load_bitmap(where->module, where->id);
+  } else {
+    for (const std::uint32_t id : language_ids(where->id)) {
+      loaded = platform::load_bitmap(where->module, id);
+      if (loaded) break;
+    }
+  }
   if (!loaded) return false;
   image_ = std::move(*loaded);
   if (transparent_) apply_transparency();

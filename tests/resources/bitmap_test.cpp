@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "guards.h"
 #include "host_doubles.h"
 #include "resource_files.h"
 #include "resources/loader.h"
@@ -15,21 +16,32 @@ namespace {
 
 using test::bytes_sink;
 
-TEST(BitmapLoading, EveryImageInEitherRowOrderIsTheFiles) {
-  const std::pair<std::int32_t, std::string> images[] = {
-      {100, test::plugin_resource("bitmaps/undo.bmp")},
-      {101, test::plugin_resource("bitmaps/redo.bmp")},
-      {103, test::plugin_resource("bitmaps/expand.bmp")},
-      {104, test::plugin_resource("bitmaps/collapse.bmp")},
-      {-118, test::basic_resource("bitmaps/select_all.bmp")},
-      {-119, test::basic_resource("bitmaps/clear_selection.bmp")},
-      {-120, test::basic_resource("bitmaps/invert_selection.bmp")},
+// A host image is asked for in the host's language first (id + offset), then in Russian (the
+// id); the plug-in's own images are the same in every language.
+TEST(BitmapLoading, EveryImageInEitherRowOrderIsTheFilesInTheHostsLanguage) {
+  struct image_case {
+    std::int32_t reference;
+    std::int32_t language;
+    std::string path;
   };
-  for (const auto& [reference, path] : images) {
+  const image_case images[] = {
+      {100, 0, test::plugin_resource("bitmaps/undo.bmp")},
+      {101, 0, test::plugin_resource("bitmaps/redo.bmp")},
+      {103, 50000, test::plugin_resource("bitmaps/expand.bmp")},
+      {104, 0, test::plugin_resource("bitmaps/collapse.bmp")},
+      {-118, 0, test::basic_resource("bitmaps/select_all.bmp")},
+      {-118, 50000, test::basic_resource("bitmaps/select_all_en.bmp")},
+      {-118, 30000, test::basic_resource("bitmaps/select_all.bmp")},
+      {-119, 50000, test::basic_resource("bitmaps/clear_selection.bmp")},
+      {-120, 0, test::basic_resource("bitmaps/invert_selection.bmp")},
+  };
+  for (const auto& [reference, language, path] : images) {
+    test::language_guard in(language);
     const auto file = test::read_bmp24(path);
     ASSERT_TRUE(file) << path;
     for (const bool stored_order : {false, true}) {
-      SCOPED_TRACE(path + (stored_order ? ", stored order" : ", top row first"));
+      SCOPED_TRACE(path + " in " + std::to_string(language) +
+                   (stored_order ? ", stored order" : ", top row first"));
       bytes_sink visitor;
       EXPECT_TRUE(load_bitmap(reference, visitor.pointer(), stored_order));
       ASSERT_EQ(visitor.calls.size(), 1u);
