@@ -31,6 +31,7 @@ enum class verb {
   press,     // BUTTON: press a button by its caption or 1-based position
   closebox,  // close the dialog with the frame's close box
   tools,     // list the toolbar's tools with their images
+  screenshot,  // FILE: save the dialog's window as a PNG (the text host does nothing)
   remove,    // ELEMENT: another part of the host deletes a project element ("delete")
   reopen,    // run the utility again, after its dialog has closed
 };
