@@ -119,9 +119,7 @@ void element_views::changed(void* element, std::uint32_t what) noexcept {
   }
 }
 
-tx_custom_pointer element_views::view::pair() noexcept {
-  return {&kTable<view>, object_half()};
-}
+tx_custom_pointer element_views::view::pair() noexcept { return {&kTable<view>, object_half()}; }
 
 std::span<const interface_entry> element_views::view::interfaces() const noexcept {
   static constexpr interface_entry entries[]{{TX_ELEMENT_VIEW_INTERFACE_0, &kTable<view>}};

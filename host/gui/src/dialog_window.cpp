@@ -46,18 +46,18 @@ constexpr int kButtonHeight = 14;
 // An empty modal dialog in the shell dialog font, resizable; controls are added at run time.
 std::vector<WORD> dialog_template() {
   std::vector<WORD> t;
-  const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | DS_MODALFRAME |
-                      DS_SHELLFONT;
+  const DWORD style =
+      WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | DS_MODALFRAME | DS_SHELLFONT;
   t.push_back(LOWORD(style));
   t.push_back(HIWORD(style));
   t.push_back(0);  // extended style
   t.push_back(0);
-  t.push_back(0);                  // no controls
+  t.push_back(0);                                                     // no controls
   for (const WORD position : {0, 0, 100, 50}) t.push_back(position);  // set once laid out
-  t.push_back(0);                  // no menu
-  t.push_back(0);                  // the standard dialog class
-  t.push_back(0);                  // no title yet
-  t.push_back(8);                  // 8 points
+  t.push_back(0);                                                     // no menu
+  t.push_back(0);                                                     // the standard dialog class
+  t.push_back(0);                                                     // no title yet
+  t.push_back(8);                                                     // 8 points
   for (const wchar_t c : std::wstring_view(L"MS Shell Dlg 2")) t.push_back(static_cast<WORD>(c));
   t.push_back(0);
   return t;
@@ -109,8 +109,8 @@ void spread(std::vector<track>& tracks, int extra) {
 // A grid's columns and rows: each as wide (high) as its widest (highest) cell; a cell that
 // spans makes the last line it covers take what the others lack. Lines without content take
 // no room and no gap.
-void plan_grid(const window_node& node, const std::vector<size_request>& requests,
-               const metrics& m, std::vector<track>& across, std::vector<track>& down) {
+void plan_grid(const window_node& node, const std::vector<size_request>& requests, const metrics& m,
+               std::vector<track>& across, std::vector<track>& down) {
   using table = tx_grid_layout_interface_91;
   const tx_custom_pointer pair = node.element.pair;
   const std::int32_t rows = std::clamp(call(pair, &table::row_count), 0, kMaxLines);
@@ -495,7 +495,8 @@ void dialog_window::fit() {
   int buttons_width = 0;
   for (const auto& [shown_button, index] : buttons_shown_) {
     (void)index;
-    const int width = std::max(m.dlu_x(kButtonWidth), text_width(m, window_text(shown_button)) + m.dlu_x(10));
+    const int width =
+        std::max(m.dlu_x(kButtonWidth), text_width(m, window_text(shown_button)) + m.dlu_x(10));
     buttons_width += width + (buttons_width > 0 ? m.dlu_x(kGap) : 0);
   }
   const int button_row = buttons_shown_.empty() ? 0 : m.dlu_y(kMargin) + m.dlu_y(kButtonHeight);
@@ -513,7 +514,8 @@ void dialog_window::fit() {
     // Centred on the screen's work area, as a dialog without a visible owner opens.
     RECT work{};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    SetWindowPos(window_, nullptr, work.left + std::max<int>(0, (work.right - work.left - width) / 2),
+    SetWindowPos(window_, nullptr,
+                 work.left + std::max<int>(0, (work.right - work.left - width) / 2),
                  work.top + std::max<int>(0, (work.bottom - work.top - height) / 2), width, height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
   } else if (width != now.right - now.left || height != now.bottom - now.top) {
@@ -534,7 +536,8 @@ void dialog_window::layout() {
   // The buttons at the bottom right, in the box's order.
   int right = client.right - margin_x;
   for (auto it = buttons_shown_.rbegin(); it != buttons_shown_.rend(); ++it) {
-    const int width = std::max(m.dlu_x(kButtonWidth), text_width(m, window_text(it->first)) + m.dlu_x(10));
+    const int width =
+        std::max(m.dlu_x(kButtonWidth), text_width(m, window_text(it->first)) + m.dlu_x(10));
     MoveWindow(it->first, right - width, client.bottom - margin_y - button_height, width,
                button_height, TRUE);
     right -= width + m.dlu_x(kGap);

@@ -134,8 +134,8 @@ checkbox_control::checkbox_control(HWND parent, const dialog::element& e, const 
     : field_control(parent, e, m) {
   box_ = make_child(parent, L"BUTTON", dialog::field_caption(e).value_or(""),
                     BS_AUTOCHECKBOX | WS_TABSTOP, m);
-  tip_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0,
-                         0, 0, parent, nullptr, GetModuleHandleW(nullptr), nullptr);
+  tip_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0, 0,
+                         0, parent, nullptr, GetModuleHandleW(nullptr), nullptr);
   refresh(TX_CHANGED_VALUE | TX_CHANGED_TEXTS | TX_CHANGED_STATE);
 }
 
@@ -321,7 +321,8 @@ size_request input_control::request(const metrics& m) const {
 void input_control::place(const RECT& area) {
   RECT box = box_area(area);
   const LRESULT count = std::max<LRESULT>(SendMessageW(box_, CB_GETCOUNT, 0, 0), 1);
-  box.bottom = box.top + (area.bottom - area.top) * static_cast<int>(std::min<LRESULT>(count, 8) + 1);
+  box.bottom =
+      box.top + (area.bottom - area.top) * static_cast<int>(std::min<LRESULT>(count, 8) + 1);
   move(box_, box);
 }
 
@@ -368,8 +369,7 @@ bool input_control::on_command(HWND from, UINT code, LRESULT& result) {
   return true;
 }
 
-void input_control::print(std::vector<std::string>& lines,
-                          const dialog::vocabulary& words) const {
+void input_control::print(std::vector<std::string>& lines, const dialog::vocabulary& words) const {
   std::vector<std::string> history;
   const int count = static_cast<int>(SendMessageW(box_, CB_GETCOUNT, 0, 0));
   for (int i = 0; i < count; ++i) history.push_back(combo_item(box_, i));

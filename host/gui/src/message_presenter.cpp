@@ -97,16 +97,16 @@ void message_presenter::progress_reported(double fraction) {
     AdjustWindowRectEx(&size, WS_POPUP | WS_CAPTION, FALSE, WS_EX_DLGMODALFRAME);
     const int width = size.right - size.left;
     const int height = size.bottom - size.top;
-    progress_window_ = CreateWindowExW(
-        WS_EX_DLGMODALFRAME, L"STATIC", L"", WS_POPUP | WS_CAPTION,
-        (over.left + over.right - width) / 2, (over.top + over.bottom - height) / 2, width, height,
-        dialog_, nullptr, GetModuleHandleW(nullptr), nullptr);
+    progress_window_ =
+        CreateWindowExW(WS_EX_DLGMODALFRAME, L"STATIC", L"", WS_POPUP | WS_CAPTION,
+                        (over.left + over.right - width) / 2, (over.top + over.bottom - height) / 2,
+                        width, height, dialog_, nullptr, GetModuleHandleW(nullptr), nullptr);
     wchar_t title[256]{};
     GetWindowTextW(dialog_, title, 256);
     SetWindowTextW(progress_window_, title);
-    progress_bar_ = CreateWindowExW(0, PROGRESS_CLASSW, nullptr, WS_CHILD | WS_VISIBLE, 12, 14,
-                                    236, 18, progress_window_, nullptr, GetModuleHandleW(nullptr),
-                                    nullptr);
+    progress_bar_ =
+        CreateWindowExW(0, PROGRESS_CLASSW, nullptr, WS_CHILD | WS_VISIBLE, 12, 14, 236, 18,
+                        progress_window_, nullptr, GetModuleHandleW(nullptr), nullptr);
     SendMessageW(progress_bar_, PBM_SETRANGE32, 0, 1000);
     ShowWindow(progress_window_, SW_SHOWNA);
   }

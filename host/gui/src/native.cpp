@@ -12,8 +12,7 @@ std::wstring wide(std::string_view text) {
 }
 
 std::string utf8(std::wstring_view text) {
-  return to_utf8(
-      std::u16string_view(reinterpret_cast<const char16_t*>(text.data()), text.size()));
+  return to_utf8(std::u16string_view(reinterpret_cast<const char16_t*>(text.data()), text.size()));
 }
 
 std::string window_text(HWND window) {
@@ -41,10 +40,9 @@ std::string combo_item(HWND combo, int index) {
 HWND make_child(HWND parent, const wchar_t* window_class, std::string_view text, DWORD style,
                 const metrics& m, DWORD ex_style) {
   static int next_id = 1000;
-  HWND child = CreateWindowExW(ex_style, window_class, wide(text).c_str(),
-                               WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent,
-                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(next_id++)),
-                               GetModuleHandleW(nullptr), nullptr);
+  HWND child = CreateWindowExW(
+      ex_style, window_class, wide(text).c_str(), WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent,
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(next_id++)), GetModuleHandleW(nullptr), nullptr);
   if (child != nullptr) SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(m.font), FALSE);
   return child;
 }

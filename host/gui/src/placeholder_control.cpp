@@ -58,15 +58,15 @@ std::string outline_control::tick(std::string_view address, bool on) {
 }
 
 std::string outline_control::select(std::string_view address, bool on) {
-  std::string error = dialog::act_on_row(
-      outline_, on ? dialog::verb::select : dialog::verb::deselect, address, {});
+  std::string error =
+      dialog::act_on_row(outline_, on ? dialog::verb::select : dialog::verb::deselect, address, {});
   refresh(TX_CHANGED_ROWS);
   return error;
 }
 
 std::string outline_control::expand(std::string_view address, bool on) {
-  std::string error = dialog::act_on_row(
-      outline_, on ? dialog::verb::expand : dialog::verb::collapse, address, {});
+  std::string error =
+      dialog::act_on_row(outline_, on ? dialog::verb::expand : dialog::verb::collapse, address, {});
   refresh(TX_CHANGED_ROWS);
   return error;
 }

@@ -84,7 +84,8 @@ tx_progress* tx_progress_create(void*) {
       ++r.created;
       created = r.live.back().get();
     }
-    if (presenter.progress_started != nullptr) presenter.progress_started(presenter.context, created);
+    if (presenter.progress_started != nullptr)
+      presenter.progress_started(presenter.context, created);
     return created;
   } catch (...) {
     return nullptr;  // "none can be shown"
@@ -116,7 +117,8 @@ void tx_progress_destroy(tx_progress* progress) {
       ended = true;
     }
   }
-  if (ended && presenter.progress_ended != nullptr) presenter.progress_ended(presenter.context, progress);
+  if (ended && presenter.progress_ended != nullptr)
+    presenter.progress_ended(presenter.context, progress);
 }
 
 TX_HOST_SIDE_EXPORT size_t tx_host_msgs_warning_count(void) {

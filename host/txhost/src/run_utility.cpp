@@ -93,10 +93,10 @@ int run_utility(const txhost_options& options, std::FILE* out, std::FILE* err) {
   if (options.gui) {
     gui::start_common_controls();
     const gui::window_options shown{options.script.empty(), options.screenshots};
-    view.set_surface_factory([shown](tx_custom_pointer docker, tx_custom_pointer buttons,
-                                     std::int32_t language) {
-      return gui::make_window_surface(docker, buttons, language, shown);
-    });
+    view.set_surface_factory(
+        [shown](tx_custom_pointer docker, tx_custom_pointer buttons, std::int32_t language) {
+          return gui::make_window_surface(docker, buttons, language, shown);
+        });
   }
 #endif
   plugin_loader loader(registry);
