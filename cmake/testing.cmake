@@ -15,8 +15,11 @@ if(CMAKE_CROSSCOMPILING)
   configure_file(${CMAKE_SOURCE_DIR}/cmake/wine-run.sh.in ${CMAKE_BINARY_DIR}/wine-run.sh
     FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE
     @ONLY)
+  configure_file(${CMAKE_SOURCE_DIR}/cmake/wine-stop.sh.in ${CMAKE_BINARY_DIR}/wine-stop.sh
+    FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE
+    @ONLY)
   set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_BINARY_DIR}/wine-run.sh)
-  add_test(NAME wine_stop COMMAND sh -c "WINEPREFIX=${TX_WINEPREFIX} wineserver -k </dev/null >/dev/null 2>&1; true")
+  add_test(NAME wine_stop COMMAND ${CMAKE_BINARY_DIR}/wine-stop.sh)
   set_tests_properties(wine_stop PROPERTIES FIXTURES_CLEANUP WINE)
 endif()
 

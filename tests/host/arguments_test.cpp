@@ -17,7 +17,8 @@ TEST(TxhostArguments, AcceptsEveryFormWithItsOptionsInAnyOrder) {
     std::string plugin{}, project{};
     std::int32_t language_offset = 0;
     std::string run_project{}, run_plugin{}, script{};
-    bool no_localizer = false, hostile = false;
+    bool no_localizer = false, hostile = false, gui = false;
+    std::string screenshots{};
   };
   struct row {
     std::vector<std::string> arguments;
@@ -49,11 +50,15 @@ TEST(TxhostArguments, AcceptsEveryFormWithItsOptionsInAnyOrder) {
         .script = "run.txt"}},
       {{"--script", "a b.txt", "--plugin", "p.so", "/x/c.json"},
        {.run_project = "/x/c.json", .run_plugin = "p.so", .script = "a b.txt"}},
+#ifdef _WIN32
+      {{"c.json", "--gui", "--plugin", "p.dll", "--screenshots", "кадры"},
+       {.run_project = "c.json", .run_plugin = "p.dll", .gui = true, .screenshots = "кадры"}},
+#endif
   };
   // Every field, in declaration order, of the options parsed and of the row.
   const auto fields = [](const auto& o) {
     return std::tuple(o.help, o.plugin, o.project, o.language_offset, o.run_project, o.run_plugin,
-                      o.script, o.no_localizer, o.hostile);
+                      o.script, o.no_localizer, o.hostile, o.gui, o.screenshots);
   };
   for (const row& r : rows) {
     const parsed_arguments parsed = parse_arguments(r.arguments);
@@ -108,6 +113,13 @@ TEST(TxhostArguments, RejectsWhatMakesNoSense) {
        "unknown language '3e4' (ru, en or an offset)"},
       {{"c.json", "--plugin", "p.dll", "--hostile", "--hostile"}, "--hostile given twice"},
       {{"--list", "p.dll", "--no-localizer"}, "--no-localizer" + run_only},
+      {{"--list", "p.dll", "--gui"}, "--gui" + run_only},
+      {{"c.json", "--plugin", "p.dll", "--gui", "--gui"}, "--gui given twice"},
+      {{"c.json", "--plugin", "p.dll", "--screenshots", "shots"},
+       "--screenshots DIR goes with --gui"},
+#ifndef _WIN32
+      {{"c.json", "--plugin", "p.dll", "--gui"}, "--gui shows a window in the Windows build only"},
+#endif
       {{"--project", "c.json", "--hostile"}, "--hostile" + run_only},
   };
   for (const row& r : rows) {

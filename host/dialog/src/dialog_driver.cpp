@@ -11,6 +11,7 @@
 #include "tx_host/dialog/button_reader.h"
 #include "tx_host/dialog/elements.h"
 #include "tx_host/dialog/outline_reader.h"
+#include "tx_host/dialog/script_values.h"
 #include "tx_host/dialog/text_renderer.h"
 #include "tx_host/dialog/toolbar_reader.h"
 
@@ -19,43 +20,6 @@ namespace {
 
 command_outcome failure(std::string error) { return {std::nullopt, {}, std::move(error)}; }
 command_outcome done() { return {}; }
-
-// Built by appending: mingw's g++ 12 at -O3 warns falsely on a literal + std::string here.
-std::string quoted(std::string_view text) {
-  std::string out(1, '"');
-  out.append(text).push_back('"');
-  return out;
-}
-
-// A whole decimal number; nothing for anything else.
-std::optional<std::int32_t> whole_number(std::string_view text) {
-  std::int32_t n = 0;
-  const char* first = text.data();
-  const char* last = text.data() + text.size();
-  if (first != last && *first == '+') ++first;
-  const auto [end, error] = std::from_chars(first, last, n);
-  if (first == last || error != std::errc() || end != last) return std::nullopt;
-  return n;
-}
-
-// A 1-based position written in digits only.
-std::optional<std::size_t> position(std::string_view text) {
-  if (text.empty() ||
-      !std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; })) {
-    return std::nullopt;
-  }
-  const std::optional<std::int32_t> n = whole_number(text);
-  if (!n || *n < 1) return std::nullopt;
-  return static_cast<std::size_t>(*n);
-}
-
-// Captions compare without a trailing colon and blanks: "Find:" is found as "Find".
-std::string_view bare(std::string_view caption) noexcept {
-  while (!caption.empty() && (caption.back() == ':' || caption.back() == ' ')) {
-    caption.remove_suffix(1);
-  }
-  return caption;
-}
 
 // The index of the drop-down item captioned `value`, or else numbered `value` (1-based).
 std::optional<std::int32_t> dropdown_item(tx_custom_pointer dropdown, std::string_view value) {
@@ -68,16 +32,6 @@ std::optional<std::int32_t> dropdown_item(tx_custom_pointer dropdown, std::strin
   }
   const std::optional<std::size_t> n = position(value);
   if (n && *n <= static_cast<std::size_t>(count)) return static_cast<std::int32_t>(*n - 1);
-  return std::nullopt;
-}
-
-std::optional<bool> on_off(std::string_view value) {
-  for (const std::string_view on : {"on", "yes", "true", "1"}) {
-    if (value == on) return true;
-  }
-  for (const std::string_view off : {"off", "no", "false", "0"}) {
-    if (value == off) return false;
-  }
   return std::nullopt;
 }
 
@@ -141,6 +95,8 @@ command_outcome dialog_driver::run(const command& c) const {
       }
       return {std::nullopt, std::move(listing), {}};
     }
+    case verb::screenshot:
+      return done();  // text has no picture to save
     case verb::remove:
       return failure("this host deletes no project elements");
     case verb::reopen:
@@ -215,71 +171,12 @@ command_outcome dialog_driver::set_field(const std::string& field, const std::st
 command_outcome dialog_driver::row_command(const command& c) const {
   const dialog_parts parts(docker_);
   if (!present(parts.outline)) return failure("the dialog has no outline");
-  const outline_reader reader(parts.outline);
-  const std::string& address = c.arguments.at(0);
-  const found_row found = find_row(reader, address);
-  if (!present(found.row)) return failure(found.error);
-  const tx_custom_pointer row = found.row;
-  using table = tx_outline_interface_32;
-  switch (c.what) {
-    case verb::tick:
-    case verb::untick: {
-      const bool on = c.what == verb::tick;
-      if (!present(reader.checks())) return failure("the rows have no check boxes");
-      if (!reader.check_enabled(row)) {
-        return failure("the box of row " + quoted(address) + " cannot be changed");
-      }
-      if (reader.checked(row) != on) {
-        call(reader.checks(), &tx_outline_checks_interface_1::set_checked, row, on);
-      }
-      break;
-    }
-    case verb::select:
-    case verb::deselect: {
-      const bool on = c.what == verb::select;
-      if (reader.selected(row) != on) call(parts.outline, &table::set_selected, row, on);
-      break;
-    }
-    case verb::expand:
-    case verb::collapse: {
-      const bool on = c.what == verb::expand;
-      if (reader.row_count(row) == 0) {
-        return failure("row " + quoted(address) + " has no rows under it");
-      }
-      if (reader.expanded(row) != on) call(parts.outline, &table::set_expanded, row, on);
-      break;
-    }
-    default: {
-      for (std::size_t column = 0; column < reader.columns().size(); ++column) {
-        if (!reader.editable(column, row)) continue;
-        const std::u16string text = to_utf16(c.arguments.at(1));
-        call(reader.columns()[column], &tx_string_outline_column_interface_10::set_text, row,
-             text.c_str());
-        return done();
-      }
-      return failure("row " + quoted(address) + " has no cell that can be edited");
-    }
-  }
-  return done();
+  return failure(act_on_row(parts.outline, c.what, c.arguments.at(0),
+                            c.arguments.size() > 1 ? c.arguments[1] : std::string()));
 }
 
 command_outcome dialog_driver::click(const std::string& tool) const {
-  const dialog_parts parts(docker_);
-  std::vector<tool_entry> tools;
-  for (const tx_custom_pointer toolbar : parts.toolbars) {
-    for (tool_entry& t : tools_of(toolbar)) tools.push_back(std::move(t));
-  }
-  auto found = std::find_if(tools.begin(), tools.end(),
-                            [&tool](const tool_entry& t) { return t.id == tool; });
-  if (found == tools.end()) {
-    found = std::find_if(tools.begin(), tools.end(),
-                         [&tool](const tool_entry& t) { return tool_caption(t.tool) == tool; });
-  }
-  if (found == tools.end()) return failure("no tool " + quoted(tool));
-  if (!tool_visible(found->tool)) return failure("tool " + quoted(tool) + " is hidden");
-  if (!tool_enabled(found->tool)) return failure("tool " + quoted(tool) + " is disabled");
-  call(found->tool, &tx_action_tool_interface_0::invoke);
-  return done();
+  return failure(click_tool(dialog_parts(docker_).toolbars, tool));
 }
 
 command_outcome dialog_driver::press(const command& c) const {
@@ -312,6 +209,117 @@ command_outcome dialog_driver::press(const command& c) const {
     return {target->index, {}, {}};
   }
   return done();
+}
+
+std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view address,
+                       std::string_view text) {
+  const outline_reader reader(outline);
+  const found_row found = find_row(reader, address);
+  if (!present(found.row)) return found.error;
+  const tx_custom_pointer row = found.row;
+  using table = tx_outline_interface_32;
+  switch (what) {
+    case verb::tick:
+    case verb::untick: {
+      const bool on = what == verb::tick;
+      if (!present(reader.checks())) return "the rows have no check boxes";
+      if (!reader.check_enabled(row)) {
+        return "the box of row " + quoted(address) + " cannot be changed";
+      }
+      if (reader.checked(row) != on) {
+        call(reader.checks(), &tx_outline_checks_interface_1::set_checked, row, on);
+      }
+      break;
+    }
+    case verb::select:
+    case verb::deselect: {
+      const bool on = what == verb::select;
+      if (reader.selected(row) != on) call(outline, &table::set_selected, row, on);
+      break;
+    }
+    case verb::expand:
+    case verb::collapse: {
+      const bool on = what == verb::expand;
+      if (reader.row_count(row) == 0) {
+        return "row " + quoted(address) + " has no rows under it";
+      }
+      if (reader.expanded(row) != on) call(outline, &table::set_expanded, row, on);
+      break;
+    }
+    default: {
+      for (std::size_t column = 0; column < reader.columns().size(); ++column) {
+        if (!reader.editable(column, row)) continue;
+        const std::u16string typed = to_utf16(text);
+        call(reader.columns()[column], &tx_string_outline_column_interface_10::set_text, row,
+             typed.c_str());
+        return {};
+      }
+      return "row " + quoted(address) + " has no cell that can be edited";
+    }
+  }
+  return {};
+}
+
+std::string click_tool(const std::vector<tx_custom_pointer>& toolbars, std::string_view tool) {
+  std::vector<tool_entry> tools;
+  for (const tx_custom_pointer toolbar : toolbars) {
+    for (tool_entry& t : tools_of(toolbar)) tools.push_back(std::move(t));
+  }
+  auto found = std::find_if(tools.begin(), tools.end(),
+                            [&tool](const tool_entry& t) { return t.id == tool; });
+  if (found == tools.end()) {
+    found = std::find_if(tools.begin(), tools.end(),
+                         [&tool](const tool_entry& t) { return tool_caption(t.tool) == tool; });
+  }
+  if (found == tools.end()) return "no tool " + quoted(tool);
+  if (!tool_visible(found->tool)) return "tool " + quoted(tool) + " is hidden";
+  if (!tool_enabled(found->tool)) return "tool " + quoted(tool) + " is disabled";
+  call(found->tool, &tx_action_tool_interface_0::invoke);
+  return {};
+}
+
+std::string quoted(std::string_view text) {
+  // Built by appending: mingw's g++ 12 at -O3 warns falsely on a literal + std::string here.
+  std::string out(1, '"');
+  out.append(text).push_back('"');
+  return out;
+}
+
+std::optional<std::int32_t> whole_number(std::string_view text) {
+  std::int32_t n = 0;
+  const char* first = text.data();
+  const char* last = text.data() + text.size();
+  if (first != last && *first == '+') ++first;
+  const auto [end, error] = std::from_chars(first, last, n);
+  if (first == last || error != std::errc() || end != last) return std::nullopt;
+  return n;
+}
+
+std::optional<std::size_t> position(std::string_view text) {
+  if (text.empty() ||
+      !std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+    return std::nullopt;
+  }
+  const std::optional<std::int32_t> n = whole_number(text);
+  if (!n || *n < 1) return std::nullopt;
+  return static_cast<std::size_t>(*n);
+}
+
+std::string_view bare(std::string_view caption) noexcept {
+  while (!caption.empty() && (caption.back() == ':' || caption.back() == ' ')) {
+    caption.remove_suffix(1);
+  }
+  return caption;
+}
+
+std::optional<bool> on_off(std::string_view value) {
+  for (const std::string_view on : {"on", "yes", "true", "1"}) {
+    if (value == on) return true;
+  }
+  for (const std::string_view off : {"off", "no", "false", "0"}) {
+    if (value == off) return false;
+  }
+  return std::nullopt;
 }
 
 }  // namespace tx::host::dialog

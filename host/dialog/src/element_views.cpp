@@ -14,11 +14,14 @@
 namespace tx::host::dialog {
 namespace {
 
+template <class View>
 constexpr tx_element_view_interface_0 kTable{
     &root_slot,
-    [](void* self, std::uint32_t what) noexcept { object_of<element_views>(self).changed(what); },
+    [](void* self, std::uint32_t what) noexcept {
+      View& v = object_of<View>(self);
+      v.owner.changed(v.element, what);
+    },
 };
-constexpr interface_entry kInterfaces[]{{TX_ELEMENT_VIEW_INTERFACE_0, &kTable}};
 
 // The set_view slot of an element's interface.
 template <class Table>
@@ -96,14 +99,31 @@ void element_views::attach(tx_custom_pointer root) {
 
 void element_views::give(tx_custom_pointer element, set_view_fn set_view) {
   if (!present(element) || set_view == nullptr || !given_.insert(element.object).second) return;
-  held_.push_back({element.object, set_view});
-  set_view(element.object, {&kTable, object_half()});
+  held_.push_back(std::make_unique<view>(*this, element.object, set_view));
+  set_view(element.object, held_.back()->pair());
 }
 
 void element_views::detach() noexcept {
-  for (const held& h : held_) h.set_view(h.element, tx_custom_pointer{});
+  for (const std::unique_ptr<view>& v : held_) v->set_view(v->element, tx_custom_pointer{});
   held_.clear();
   given_.clear();
+}
+
+void element_views::changed(void* element, std::uint32_t what) noexcept {
+  changes_ |= what;
+  if (!listener_) return;
+  try {
+    listener_(element, what);
+  } catch (...) {
+    // Out of memory in the listener: the change is still gathered above.
+  }
+}
+
+tx_custom_pointer element_views::view::pair() noexcept { return {&kTable<view>, object_half()}; }
+
+std::span<const interface_entry> element_views::view::interfaces() const noexcept {
+  static constexpr interface_entry entries[]{{TX_ELEMENT_VIEW_INTERFACE_0, &kTable<view>}};
+  return entries;
 }
 
 std::uint32_t element_views::take_changes() noexcept {
@@ -111,7 +131,5 @@ std::uint32_t element_views::take_changes() noexcept {
   changes_ = 0;
   return changes;
 }
-
-std::span<const interface_entry> element_views::interfaces() const noexcept { return kInterfaces; }
 
 }  // namespace tx::host::dialog

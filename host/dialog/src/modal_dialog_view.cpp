@@ -4,7 +4,6 @@
 #include "tx/toolkit/button_box.h"
 #include "tx/toolkit/docker.h"
 #include "tx_host/dialog/dialog_driver.h"
-#include "tx_host/dialog/element_views.h"
 #include "tx_host/dialog/hostile_pass.h"
 #include "tx_host/dialog/vocabulary.h"
 #include "tx_host/msgs.h"
@@ -101,17 +100,18 @@ std::int32_t modal_dialog_view::show(tx_custom_pointer content, tx_custom_pointe
 }
 
 std::int32_t modal_dialog_view::run_loop(tx_custom_pointer docker, tx_custom_pointer buttons) {
-  const dialog_driver driver(docker, buttons, language_);
   // A script already stopped: this dialog closes at once.
   if (failed()) {
-    driver.press_close_box();
+    dialog_driver(docker, buttons, language_).press_close_box();
     return -1;
   }
-  element_views views;
-  views.attach(docker);
+  const std::unique_ptr<dialog_surface> surface =
+      make_surface_ ? make_surface_(docker, buttons, language_)
+                    : std::make_unique<text_surface>(docker, buttons, language_);
   print_new_warnings();
+  if (const std::optional<std::int32_t> closed = surface->run_by_hand()) return *closed;
   const bool person = commands_.interactive();
-  if (person) print(driver.render());
+  if (person) print(surface->render());
   std::int32_t closed_with = -1;
   while (true) {
     const parsed_line next = commands_.next();
@@ -121,13 +121,13 @@ std::int32_t modal_dialog_view::run_loop(tx_custom_pointer docker, tx_custom_poi
     } else if (!next.parsed) {
       // The end of the commands: the frame's close box, whatever the box answers.
       if (!person) print("> closebox  # the commands ended\n");
-      driver.press_close_box();
+      surface->press_close_box();
       break;
     } else {
       if (!person) print("> " + next.parsed->text + "\n");
       const command_outcome outcome = host_commands::for_host(next.parsed->what)
                                           ? run_for_host(*next.parsed)
-                                          : driver.run(*next.parsed);
+                                          : surface->run(*next.parsed);
       print(outcome.output);
       print_new_warnings();
       error = outcome.error;
@@ -135,7 +135,7 @@ std::int32_t modal_dialog_view::run_loop(tx_custom_pointer docker, tx_custom_poi
         closed_with = *outcome.closed_with;
         break;
       }
-      views.attach(docker);
+      surface->settle();
     }
     if (!error.empty()) {
       const std::size_t line = next.error ? next.error->line : next.parsed->line;
@@ -144,12 +144,11 @@ std::int32_t modal_dialog_view::run_loop(tx_custom_pointer docker, tx_custom_poi
         continue;
       }
       error_ = commands_.name() + ":" + std::to_string(line) + ": " + error;
-      driver.press_close_box();
+      surface->press_close_box();
       break;
     }
-    if (person && views.take_changes() != 0) print(driver.render());
+    if (person && surface->take_changed()) print(surface->render());
   }
-  views.detach();
   return closed_with;
 }
 

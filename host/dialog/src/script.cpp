@@ -15,8 +15,8 @@ struct verb_entry {
   std::string_view summary;
 };
 
-const std::array<verb_entry, 19>& verbs() {
-  static const std::array<verb_entry, 19> table{{
+const std::array<verb_entry, 20>& verbs() {
+  static const std::array<verb_entry, 20> table{{
       {verb::print, "print", {}, "render the dialog now"},
       {verb::help, "help", {}, "list the commands"},
       {verb::op, "op", {"OPERATION"}, "choose the shown operation (caption or number)"},
@@ -34,6 +34,7 @@ const std::array<verb_entry, 19>& verbs() {
       {verb::press, "press", {"BUTTON"}, "press a button (caption or number)"},
       {verb::closebox, "closebox", {}, "close the dialog with the frame's close box"},
       {verb::tools, "tools", {}, "list the tools with their captions and images"},
+      {verb::screenshot, "screenshot", {"FILE"}, "save the dialog's window as a PNG (--gui)"},
       {verb::remove, "delete", {"ELEMENT"}, "the host deletes a project element (uuid or caption)"},
       {verb::reopen, "reopen", {}, "run the utility again (after its dialog closed)"},
   }};

@@ -22,45 +22,37 @@ std::string quoted(std::string_view text) {
 }
 
 // "Caption: value"; a caption that ends in its own sign ("N = ") is not given another.
-std::string labeled(const element& e, const std::string& value) {
-  std::string caption = field_caption(e).value_or("");
-  while (!caption.empty() && caption.back() == ' ') caption.pop_back();
+std::string labeled(std::string_view caption, const std::string& value) {
+  while (!caption.empty() && caption.back() == ' ') caption.remove_suffix(1);
   if (caption.empty()) return value;
   const bool signed_off = caption.back() == ':' || caption.back() == '=';
-  return caption + (signed_off ? " " : ": ") + value;
+  std::string out(caption);
+  out += signed_off ? " " : ": ";
+  return out + value;
 }
 
 std::string checkbox_text(const element& e) {
-  const bool on = call(e.pair, &tx_checkbox_interface_2::checked);
-  return (on ? "[x] " : "[ ] ") + field_caption(e).value_or("");
+  return text::checkbox(call(e.pair, &tx_checkbox_interface_2::checked),
+                        field_caption(e).value_or(""));
 }
 
 std::string dropdown_text(const element& e, const vocabulary& words) {
   using table = tx_dropdown_interface_3;
   const std::int32_t count = call(e.pair, &table::item_count);
-  const std::int32_t selected = call(e.pair, &table::selected);
-  std::string chosen(words.none);
-  std::string items;
+  std::vector<std::string> items;
   for (std::int32_t i = 0; i < count; ++i) {
-    const std::string text = collect_text([&](tx_custom_pointer v) {
-                               return call(e.pair, &table::item_text, i, v);
-                             }).value_or("");
-    if (i == selected) chosen = text;
-    items += (i == 0 ? "" : " · ") + std::to_string(i + 1) + " " + text;
+    items.push_back(collect_text([&](tx_custom_pointer v) {
+                      return call(e.pair, &table::item_text, i, v);
+                    }).value_or(""));
   }
-  return labeled(e, "[" + chosen + "]") + (items.empty() ? "" : "  (" + items + ")");
+  return text::dropdown(field_caption(e).value_or(""), items, call(e.pair, &table::selected),
+                        words);
 }
 
 std::string integer_text(const element& e) {
   using table = tx_integer_input_interface_6;
-  const std::int32_t low = call(e.pair, &table::minimum);
-  const std::int32_t high = call(e.pair, &table::maximum);
-  std::string text = labeled(e, std::to_string(call(e.pair, &table::value)));
-  if (low != std::numeric_limits<std::int32_t>::min() ||
-      high != std::numeric_limits<std::int32_t>::max()) {
-    text += "  (" + std::to_string(low) + "…" + std::to_string(high) + ")";
-  }
-  return text;
+  return text::integer(field_caption(e).value_or(""), call(e.pair, &table::value),
+                       call(e.pair, &table::minimum), call(e.pair, &table::maximum));
 }
 
 std::string input_text(const element& e, const vocabulary& words) {
@@ -69,33 +61,23 @@ std::string input_text(const element& e, const vocabulary& words) {
                               call(e.pair, &table::text, v);
                               return true;
                             }).value_or("");
-  std::string history;
+  std::vector<std::string> history;
   const std::int32_t count = call(e.pair, &table::history_count);
   for (std::int32_t i = 0; i < count; ++i) {
     const std::optional<std::string> item =
         collect_text([&](tx_custom_pointer v) { return call(e.pair, &table::history_item, i, v); });
-    if (item) history += (history.empty() ? "" : " · ") + quoted(*item);
+    if (item) history.push_back(*item);
   }
-  return labeled(e, quoted(value)) + "  " + std::string(words.history) + ": " +
-         (history.empty() ? std::string(words.none) : history);
+  return text::input(field_caption(e).value_or(""), value, history, words);
 }
 
 std::string toolbar_text(tx_custom_pointer toolbar, const vocabulary& words) {
-  std::string text(words.tools);
-  text += ":";
-  int group = -1;
+  std::vector<text::tool_text> tools;
   for (const tool_entry& t : tools_of(toolbar)) {
-    if (!tool_visible(t.tool)) continue;
-    text += group < 0 ? " " : t.group != group ? " ‖ " : " | ";
-    group = t.group;
-    const std::string caption = tool_caption(t.tool).value_or(t.id);
-    std::string shown = caption;
-    if (const std::optional<std::string> hint = tool_hint(t.tool); hint && *hint != caption) {
-      shown += " [" + *hint + "]";
-    }
-    text += tool_enabled(t.tool) ? shown : "(" + shown + ")";
+    tools.push_back({t.group, tool_caption(t.tool).value_or(t.id), tool_hint(t.tool),
+                     tool_enabled(t.tool), tool_visible(t.tool)});
   }
-  return text;
+  return text::toolbar(tools, words);
 }
 
 std::string bitmap_text(tx_custom_pointer bitmap) {
@@ -111,11 +93,11 @@ class renderer final : public element_listener {
   void enter_group(const element& e) override {
     const std::optional<std::string> caption = collect_text(
         [&e](tx_custom_pointer v) { return call(e.pair, &tx_groupbox_interface_92::caption, v); });
-    line(caption ? "┌ " + *caption : "┌");
-    ++depth_;
+    line(text::opening(caption));
+    out_.enter();
   }
   void leave_group(const element&) override {
-    --depth_;
+    out_.leave();
     line("└");
   }
   void leaf(const element& e) override {
@@ -145,21 +127,15 @@ class renderer final : public element_listener {
     }
   }
 
-  void line(std::string_view text) {
-    for (int i = 0; i < depth_; ++i) out_ += kGutter;
-    out_ += text;
-    while (!out_.empty() && out_.back() == ' ') out_.pop_back();
-    out_ += '\n';
-  }
+  void line(std::string_view text) { out_.line(text); }
   // Starts the frame's content one level in.
-  void enter_frame() noexcept { ++depth_; }
-  void leave_frame() noexcept { --depth_; }
-  std::string take() { return std::move(out_); }
+  void enter_frame() noexcept { out_.enter(); }
+  void leave_frame() noexcept { out_.leave(); }
+  std::string take() { return out_.take(); }
 
  private:
   const vocabulary& words_;
-  std::string out_;
-  int depth_ = 0;
+  text::lines out_;
   int fields_ = 0;
 };
 
@@ -191,8 +167,7 @@ std::string render_field(const element& field, const vocabulary& words) {
     default:
       return text;
   }
-  if (!element_enabled(field)) text += "  (" + std::string(words.disabled) + ")";
-  return text;
+  return text::field(std::move(text), element_enabled(field), words);
 }
 
 std::string render_dialog(tx_custom_pointer docker, tx_custom_pointer buttons,
@@ -200,26 +175,16 @@ std::string render_dialog(tx_custom_pointer docker, tx_custom_pointer buttons,
   renderer out(words);
   const std::optional<std::string> caption = collect_text(
       [docker](tx_custom_pointer v) { return call(docker, &tx_docker_interface_92::caption, v); });
-  out.line(caption ? "┌ " + *caption : "┌");
+  out.line(text::opening(caption));
   out.enter_frame();
   walk(docker, out, walk_scope::shown);
   out.leave_frame();
   out.line("└");
-  // A button without a caption is shown by its position, as `press` finds it.
-  std::string row;
-  std::size_t position = 0;
+  std::vector<std::string> shown;
   for (const button_entry& b : buttons_of(buttons)) {
-    if (!b.shown) continue;
-    ++position;
-    row += row.empty() ? "[ " : " [ ";
-    if (b.caption.empty()) {
-      row.append(1, '#').append(std::to_string(position));
-    } else {
-      row += b.caption;
-    }
-    row += " ]";
+    if (b.shown) shown.push_back(b.caption);
   }
-  if (!row.empty()) out.line(row);
+  if (const std::string row = text::buttons(shown); !row.empty()) out.line(row);
   return out.take();
 }
 
@@ -228,5 +193,90 @@ std::vector<element> shown_fields(tx_custom_pointer root) {
   walk(root, list, walk_scope::shown);
   return std::move(list.fields);
 }
+
+namespace text {
+
+std::string checkbox(bool on, std::string_view caption) {
+  std::string out(on ? "[x] " : "[ ] ");
+  return out.append(caption);
+}
+
+std::string dropdown(std::string_view caption, const std::vector<std::string>& items,
+                     std::int32_t chosen, const vocabulary& words) {
+  std::string shown(words.none);
+  std::string listed;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    if (static_cast<std::int64_t>(i) == chosen) shown = items[i];
+    listed += (i == 0 ? "" : " · ") + std::to_string(i + 1) + " " + items[i];
+  }
+  return labeled(caption, "[" + shown + "]") + (listed.empty() ? "" : "  (" + listed + ")");
+}
+
+std::string integer(std::string_view caption, std::int32_t value, std::int32_t low,
+                    std::int32_t high) {
+  std::string out = labeled(caption, std::to_string(value));
+  if (low != std::numeric_limits<std::int32_t>::min() ||
+      high != std::numeric_limits<std::int32_t>::max()) {
+    out += "  (" + std::to_string(low) + "…" + std::to_string(high) + ")";
+  }
+  return out;
+}
+
+std::string input(std::string_view caption, std::string_view value,
+                  const std::vector<std::string>& history, const vocabulary& words) {
+  std::string listed;
+  for (const std::string& item : history) {
+    listed += (listed.empty() ? "" : " · ") + quoted(item);
+  }
+  return labeled(caption, quoted(value)) + "  " + std::string(words.history) + ": " +
+         (listed.empty() ? std::string(words.none) : listed);
+}
+
+std::string field(std::string field, bool enabled, const vocabulary& words) {
+  if (!enabled) field += "  (" + std::string(words.disabled) + ")";
+  return field;
+}
+
+std::string toolbar(const std::vector<tool_text>& tools, const vocabulary& words) {
+  std::string out(words.tools);
+  out += ":";
+  int group = -1;
+  for (const tool_text& t : tools) {
+    if (!t.visible) continue;
+    out += group < 0 ? " " : t.group != group ? " ‖ " : " | ";
+    group = t.group;
+    std::string shown = t.caption;
+    if (t.hint && *t.hint != t.caption) shown += " [" + *t.hint + "]";
+    out += t.enabled ? shown : "(" + shown + ")";
+  }
+  return out;
+}
+
+std::string opening(const std::optional<std::string>& caption) {
+  return caption ? "┌ " + *caption : "┌";
+}
+
+std::string buttons(const std::vector<std::string>& shown_captions) {
+  std::string row;
+  for (std::size_t i = 0; i < shown_captions.size(); ++i) {
+    row += row.empty() ? "[ " : " [ ";
+    if (shown_captions[i].empty()) {
+      row.append(1, '#').append(std::to_string(i + 1));
+    } else {
+      row += shown_captions[i];
+    }
+    row += " ]";
+  }
+  return row;
+}
+
+void lines::line(std::string_view text) {
+  for (int i = 0; i < depth_; ++i) out_ += kGutter;
+  out_ += text;
+  while (!out_.empty() && out_.back() == ' ') out_.pop_back();
+  out_ += '\n';
+}
+
+}  // namespace text
 
 }  // namespace tx::host::dialog

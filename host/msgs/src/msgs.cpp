@@ -42,6 +42,8 @@ struct msgs_record {
 };
 
 std::atomic<bool> echo{true};
+// Touched on the UI thread only.
+tx_host_msgs_presenter presenter{};
 
 msgs_record& record() {
   static msgs_record instance;
@@ -61,9 +63,12 @@ void tx_show_wwarning(const char16_t* text) {
       std::fwrite(line.data(), 1, line.size(), stderr);
       std::fflush(stderr);
     }
-    msgs_record& r = record();
-    const std::lock_guard lock(r.mutex);
-    r.warnings.push_back(std::move(copy));
+    {
+      msgs_record& r = record();
+      const std::lock_guard lock(r.mutex);
+      r.warnings.push_back(std::move(copy));
+    }
+    if (presenter.warning != nullptr) presenter.warning(presenter.context, text);
   } catch (...) {
     // Out of memory: the warning is lost, the plug-in goes on.
   }
@@ -72,10 +77,16 @@ void tx_show_wwarning(const char16_t* text) {
 tx_progress* tx_progress_create(void*) {
   try {
     msgs_record& r = record();
-    const std::lock_guard lock(r.mutex);
-    r.live.push_back(std::make_unique<tx_progress>());
-    ++r.created;
-    return r.live.back().get();
+    tx_progress* created = nullptr;
+    {
+      const std::lock_guard lock(r.mutex);
+      r.live.push_back(std::make_unique<tx_progress>());
+      ++r.created;
+      created = r.live.back().get();
+    }
+    if (presenter.progress_started != nullptr)
+      presenter.progress_started(presenter.context, created);
+    return created;
   } catch (...) {
     return nullptr;  // "none can be shown"
   }
@@ -84,18 +95,30 @@ tx_progress* tx_progress_create(void*) {
 void tx_progress_report(tx_progress* progress, double fraction) {
   try {
     msgs_record& r = record();
-    const std::lock_guard lock(r.mutex);
-    if (r.is_live(progress)) r.reports.push_back(fraction);
+    {
+      const std::lock_guard lock(r.mutex);
+      if (!r.is_live(progress)) return;
+      r.reports.push_back(fraction);
+    }
+    if (presenter.progress_reported != nullptr) {
+      presenter.progress_reported(presenter.context, progress, fraction);
+    }
   } catch (...) {
   }
 }
 
 void tx_progress_destroy(tx_progress* progress) {
   msgs_record& r = record();
-  const std::lock_guard lock(r.mutex);
-  if (std::erase_if(r.live, [progress](const auto& p) { return p.get() == progress; }) > 0) {
-    ++r.destroyed;
+  bool ended = false;
+  {
+    const std::lock_guard lock(r.mutex);
+    if (std::erase_if(r.live, [progress](const auto& p) { return p.get() == progress; }) > 0) {
+      ++r.destroyed;
+      ended = true;
+    }
   }
+  if (ended && presenter.progress_ended != nullptr)
+    presenter.progress_ended(presenter.context, progress);
 }
 
 TX_HOST_SIDE_EXPORT size_t tx_host_msgs_warning_count(void) {
@@ -139,6 +162,10 @@ TX_HOST_SIDE_EXPORT void tx_host_msgs_set_echo(bool on) {
 }
 
 TX_HOST_SIDE_EXPORT bool tx_host_msgs_echo(void) { return echo.load(std::memory_order_relaxed); }
+
+TX_HOST_SIDE_EXPORT void tx_host_msgs_set_presenter(const tx_host_msgs_presenter* shown) {
+  presenter = shown != nullptr ? *shown : tx_host_msgs_presenter{};
+}
 
 TX_HOST_SIDE_EXPORT void tx_host_msgs_clear(void) {
   msgs_record& r = record();

@@ -16,12 +16,13 @@ struct value_option {
   std::string_view name;
   std::string_view needs;
 };
-constexpr std::array<value_option, 5> value_options{{
+constexpr std::array<value_option, 6> value_options{{
     {"--list", "a PLUGIN"},
     {"--project", "a FILE"},
     {"--lang", "ru, en or an offset"},
     {"--plugin", "a PLUGIN"},
     {"--script", "a FILE"},
+    {"--screenshots", "a DIR"},
 }};
 
 // The option's value field, for the options that keep a path.
@@ -29,6 +30,7 @@ std::string& path_of(txhost_options& options, std::string_view option) {
   if (option == "--list") return options.plugin;
   if (option == "--project") return options.project;
   if (option == "--plugin") return options.run_plugin;
+  if (option == "--screenshots") return options.screenshots;
   return options.script;
 }
 
@@ -59,8 +61,10 @@ parsed_arguments parse_arguments(std::span<const std::string> arguments) {
       options.help = true;
       continue;
     }
-    if (argument == "--no-localizer" || argument == "--hostile") {
-      bool& flag = argument == "--hostile" ? options.hostile : options.no_localizer;
+    if (argument == "--no-localizer" || argument == "--hostile" || argument == "--gui") {
+      bool& flag = argument == "--hostile" ? options.hostile
+                   : argument == "--gui"   ? options.gui
+                                           : options.no_localizer;
       if (flag) return failure(argument + " given twice");
       flag = true;
       continue;
@@ -104,10 +108,18 @@ parsed_arguments parse_arguments(std::span<const std::string> arguments) {
   if (!options.script.empty() && !running) {
     return failure("--script FILE goes with PROJECT --plugin PLUGIN");
   }
-  if ((options.no_localizer || options.hostile) && !running) {
-    return failure(std::string(options.hostile ? "--hostile" : "--no-localizer") +
+  if ((options.no_localizer || options.hostile || options.gui) && !running) {
+    return failure(std::string(options.hostile ? "--hostile"
+                               : options.gui   ? "--gui"
+                                               : "--no-localizer") +
                    " goes with PROJECT --plugin PLUGIN");
   }
+  if (!options.screenshots.empty() && !options.gui) {
+    return failure("--screenshots DIR goes with --gui");
+  }
+#ifndef _WIN32
+  if (options.gui) return failure("--gui shows a window in the Windows build only");
+#endif
   if (!options.help && !running && options.plugin.empty() && options.project.empty()) {
     return failure(arguments.empty() ? "nothing to do"
                                      : "--list PLUGIN or --project FILE is required");
@@ -119,7 +131,7 @@ const char* txhost_usage() noexcept {
   return "Usage: txhost --list PLUGIN [--project FILE] [--lang ru|en|N]\n"
          "       txhost --project FILE [--lang ru|en|N]\n"
          "       txhost PROJECT --plugin PLUGIN [--script FILE] [--lang ru|en|N] [--no-localizer]\n"
-         "              [--hostile]\n"
+         "              [--hostile] [--gui [--screenshots DIR]]\n"
          "       txhost --help\n"
          "\n"
          "Loads the Tarvex plug-in PLUGIN as the host application does and prints one line per\n"
@@ -146,6 +158,10 @@ const char* txhost_usage() noexcept {
          "  --hostile        before each dialog is driven, hand each of its elements a null pair\n"
          "                   wherever it takes a visitor, a row, a view or a host reference, and\n"
          "                   a null text wherever it takes a text; the dialog must not change\n"
+         "  --gui            show each dialog as a window of native controls (Windows build):\n"
+         "                   the script drives it through its controls; without --script a\n"
+         "                   person works it with mouse and keyboard\n"
+         "  --screenshots DIR  where `screenshot FILE` saves a FILE named without a folder\n"
          "  --help           print this help\n"
          "\n"
          "Exit status: 0 done, 1 the plug-in could not be loaded, the project file was refused\n"

@@ -28,6 +28,10 @@ struct txhost_options {
   bool no_localizer = false;
   // --hostile: every dialog is first handed null pairs and null texts wherever it takes them.
   bool hostile = false;
+  // --gui: each dialog is a window of native controls (Windows build only).
+  bool gui = false;
+  // --screenshots DIR: where `screenshot FILE` writes a FILE named without a folder (--gui).
+  std::string screenshots;
 };
 
 struct parsed_arguments {

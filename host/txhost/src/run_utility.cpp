@@ -12,6 +12,9 @@
 #include "tx/utility.h"
 #include "tx_host/dialog/command_source.h"
 #include "tx_host/dialog/modal_dialog_view.h"
+#ifdef _WIN32
+#include "tx_host/gui/window_surface.h"
+#endif
 #include "tx_host/msgs.h"
 #include "tx_host/project.h"
 #include "tx_host/services/service_registry.h"
@@ -86,6 +89,16 @@ int run_utility(const txhost_options& options, std::FILE* out, std::FILE* err) {
   dialog::modal_dialog_view view(*commands, out, options.language_offset);
   view.set_host_commands(&host);
   view.set_hostile(options.hostile);
+#ifdef _WIN32
+  if (options.gui) {
+    gui::start_common_controls();
+    const gui::window_options shown{options.script.empty(), options.screenshots};
+    view.set_surface_factory(
+        [shown](tx_custom_pointer docker, tx_custom_pointer buttons, std::int32_t language) {
+          return gui::make_window_surface(docker, buttons, language, shown);
+        });
+  }
+#endif
   plugin_loader loader(registry);
   if (!loader.load(options.run_plugin)) {
     report_load_failure(loader, options.run_plugin, err);

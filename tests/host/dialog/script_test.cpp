@@ -37,6 +37,7 @@ TEST(ScriptLine, ParsesEveryCommandWithItsArgumentsAndTheSummaryNamesEach) {
       {"press 2", verb::press, {"2"}},
       {"closebox", verb::closebox, {}},
       {"tools", verb::tools, {}},
+      {"screenshot \"окно 1.png\"", verb::screenshot, {"окно 1.png"}},
       {"delete 0000000000000a04", verb::remove, {"0000000000000a04"}},
       {"delete \"Лист 1\"", verb::remove, {"Лист 1"}},
       {"reopen", verb::reopen, {}},
@@ -55,7 +56,7 @@ TEST(ScriptLine, ParsesEveryCommandWithItsArgumentsAndTheSummaryNamesEach) {
         << r.line;
   }
   // The rows hold every command, and the summary a line for each.
-  EXPECT_EQ(std::count(summary.begin(), summary.end(), '\n'), 19);
+  EXPECT_EQ(std::count(summary.begin(), summary.end(), '\n'), 20);
 }
 
 TEST(ScriptLine, QuotesBlanksAndCommentsAreReadAsWritten) {

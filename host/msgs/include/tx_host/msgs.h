@@ -27,6 +27,20 @@ TX_HOST_API size_t tx_host_msgs_progress_destroyed(void);
 TX_HOST_API void tx_host_msgs_set_echo(bool on);
 TX_HOST_API bool tx_host_msgs_echo(void);
 
+/* How a host with windows shows what plug-ins report, beside the record: each function, when
+   set, is called on the UI thread after the report is recorded. `indicator` names one
+   progress indicator from its creation to its destruction. */
+typedef struct tx_host_msgs_presenter {
+  void* context;
+  void (*warning)(void* context, const char16_t* text);
+  void (*progress_started)(void* context, const void* indicator);
+  void (*progress_reported)(void* context, const void* indicator, double fraction);
+  void (*progress_ended)(void* context, const void* indicator);
+} tx_host_msgs_presenter;
+
+/* Shows every later report through `presenter` (copied; null: through nothing but the record). */
+TX_HOST_API void tx_host_msgs_set_presenter(const tx_host_msgs_presenter* presenter);
+
 /* Forgets every recorded warning, report and count. Indicators still alive stay usable. */
 TX_HOST_API void tx_host_msgs_clear(void);
 

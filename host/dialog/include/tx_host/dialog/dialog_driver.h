@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "tx/abi.h"
 #include "tx_host/dialog/script.h"
@@ -47,5 +49,12 @@ class dialog_driver {
   tx_custom_pointer buttons_;
   std::int32_t language_;
 };
+
+// A row command (tick, untick, select, deselect, expand, collapse, rename with `text`) on the
+// row at `address` of `outline`, refused as a user could not do it; the error, empty when done.
+std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view address,
+                       std::string_view text);
+// Clicks the tool `tool` (by id, else by caption) of `toolbars`; the error, empty when done.
+std::string click_tool(const std::vector<tx_custom_pointer>& toolbars, std::string_view tool);
 
 }  // namespace tx::host::dialog

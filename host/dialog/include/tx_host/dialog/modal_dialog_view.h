@@ -22,6 +22,7 @@
 #include <vector>
 
 #include "tx_host/dialog/command_source.h"
+#include "tx_host/dialog/dialog_surface.h"
 #include "tx_host/dialog/host_commands.h"
 #include "tx_host/services/interface_object.h"
 #include "tx_host/services/publish_sink.h"
@@ -42,6 +43,8 @@ class modal_dialog_view final : public interface_object {
   // Each dialog shown from now on first goes through the hostile pass (hostile_pass.h), whose
   // report is printed before its first command.
   void set_hostile(bool hostile) noexcept { hostile_ = hostile; }
+  // Each dialog shown from now on is shown by what `make` makes (by default, as text).
+  void set_surface_factory(surface_factory make) { make_surface_ = std::move(make); }
 
   // Visits the dialogs of every modal dialog service `sink` holds and gives each this view.
   void offer_to(const publish_sink& sink);
@@ -76,6 +79,7 @@ class modal_dialog_view final : public interface_object {
   std::int32_t language_;
   host_commands* host_ = nullptr;
   bool hostile_ = false;
+  surface_factory make_surface_;
   std::vector<tx_custom_pointer> dialogs_;
   std::vector<std::string> dialog_ids_;
   std::size_t warnings_printed_;

@@ -14,25 +14,26 @@ namespace tx::host::dialog {
 
 // What a command does; each verb has a fixed number of arguments (verb_arity).
 enum class verb {
-  print,     // render the dialog now
-  help,      // list the commands
-  op,        // OPERATION: choose the shown operation in the operation selector
-  set,       // FIELD VALUE: set an input field of the dialog
-  tick,      // ROW: tick the row's box
-  untick,    // ROW: clear the row's box
-  select,    // ROW: add the row to the selection
-  deselect,  // ROW: take the row out of the selection
-  expand,    // ROW: show the rows under the row
-  collapse,  // ROW: hide the rows under the row
-  rename,    // ROW TEXT: type TEXT into the row's editable cell
-  click,     // TOOL: click a toolbar tool by its id or caption
-  accept,    // press the accepting button
-  close,     // press the closing button
-  press,     // BUTTON: press a button by its caption or 1-based position
-  closebox,  // close the dialog with the frame's close box
-  tools,     // list the toolbar's tools with their images
-  remove,    // ELEMENT: another part of the host deletes a project element ("delete")
-  reopen,    // run the utility again, after its dialog has closed
+  print,       // render the dialog now
+  help,        // list the commands
+  op,          // OPERATION: choose the shown operation in the operation selector
+  set,         // FIELD VALUE: set an input field of the dialog
+  tick,        // ROW: tick the row's box
+  untick,      // ROW: clear the row's box
+  select,      // ROW: add the row to the selection
+  deselect,    // ROW: take the row out of the selection
+  expand,      // ROW: show the rows under the row
+  collapse,    // ROW: hide the rows under the row
+  rename,      // ROW TEXT: type TEXT into the row's editable cell
+  click,       // TOOL: click a toolbar tool by its id or caption
+  accept,      // press the accepting button
+  close,       // press the closing button
+  press,       // BUTTON: press a button by its caption or 1-based position
+  closebox,    // close the dialog with the frame's close box
+  tools,       // list the toolbar's tools with their images
+  screenshot,  // FILE: save the dialog's window as a PNG (the text host does nothing)
+  remove,      // ELEMENT: another part of the host deletes a project element ("delete")
+  reopen,      // run the utility again, after its dialog has closed
 };
 
 // The verb's name as written in a script.

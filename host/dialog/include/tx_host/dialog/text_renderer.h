@@ -14,7 +14,10 @@
 //   [ Apply ] [ Close ]                   the button box
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tx/abi.h"
@@ -33,5 +36,55 @@ std::vector<element> shown_fields(tx_custom_pointer root);
 
 // One field as it is printed, without its number.
 std::string render_field(const element& field, const vocabulary& words);
+
+// The pieces of the text, over plain values: the text host fills them from the elements, the
+// window host from its controls, so that both print a dialog alike.
+namespace text {
+
+// "[x] Caption" or "[ ] Caption".
+std::string checkbox(bool on, std::string_view caption);
+// "Caption: [chosen]  (1 first · 2 second)"; `chosen` outside the items: "[—]".
+std::string dropdown(std::string_view caption, const std::vector<std::string>& items,
+                     std::int32_t chosen, const vocabulary& words);
+// "Caption: 5  (0…100)"; the range only when the input is bounded.
+std::string integer(std::string_view caption, std::int32_t value, std::int32_t low,
+                    std::int32_t high);
+// "Caption: «text»  history: «a» · «b»" (history most recent first; "—" when empty).
+std::string input(std::string_view caption, std::string_view value,
+                  const std::vector<std::string>& history, const vocabulary& words);
+// `field` with "  (disabled)" after it when the user cannot change it.
+std::string field(std::string field, bool enabled, const vocabulary& words);
+
+// One tool of a toolbar as the toolbar line shows it.
+struct tool_text {
+  int group = 0;
+  std::string caption;  // the id when the tool has no caption
+  std::optional<std::string> hint;
+  bool enabled = true;
+  bool visible = true;
+};
+// "Tools: A | B ‖ (C)": `|` between tools, `‖` between groups, a disabled tool in parentheses.
+std::string toolbar(const std::vector<tool_text>& tools, const vocabulary& words);
+// "┌ Caption", or "┌" without one: the frame's or a group box's first line.
+std::string opening(const std::optional<std::string>& caption);
+// "[ Apply ] [ Close ]": the shown buttons' captions in order; one without a caption is shown
+// by its position, "[ #2 ]".
+std::string buttons(const std::vector<std::string>& shown_captions);
+
+// The lines of the dialog: each indented by the gutter of the group boxes around it, trailing
+// blanks cut.
+class lines {
+ public:
+  void line(std::string_view text);
+  void enter() noexcept { ++depth_; }
+  void leave() noexcept { --depth_; }
+  std::string take() { return std::move(out_); }
+
+ private:
+  std::string out_;
+  int depth_ = 0;
+};
+
+}  // namespace text
 
 }  // namespace tx::host::dialog

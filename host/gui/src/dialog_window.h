@@ -1,0 +1,121 @@
+// The plug-in's dialog as a real window: a modal dialog whose title is the docker's caption,
+// whose content is one native control per leaf element laid out by the plug-in's grids, group
+// boxes and stacks, and whose buttons are the button box's, at the bottom right. Every text,
+// value and state is read through the element interfaces and kept only in the controls; every
+// action of a person goes back through the same interfaces; a change the plug-in tells a view
+// makes the window read that element again (after the current message, from its own queue).
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "tx/abi.h"
+#include "tx_host/dialog/element_views.h"
+#include "tx_host/dialog/elements.h"
+#include "tx_host/gui/control.h"
+
+namespace tx::host::gui {
+
+class field_control;
+class dropdown_control;
+class outline_control;
+class toolbar_control;
+
+// One element of the dialog as the window shows it.
+struct window_node {
+  dialog::element element;
+  // A grid's cells or a group box's and a stack's content.
+  std::vector<std::unique_ptr<window_node>> children;
+  // Where this node sits in its parent grid.
+  int row = 0, column = 0, row_span = 1, column_span = 1;
+  std::unique_ptr<control> leaf;  // a field, label, outline, toolbar
+  HWND frame = nullptr;           // a group box's frame
+  bool shown = true;
+  ~window_node();
+};
+
+class dialog_window {
+ public:
+  // Shows the dialog over `owner` (which it disables until it closes). `docker` and `buttons`
+  // are borrowed while the window lives.
+  dialog_window(tx_custom_pointer docker, tx_custom_pointer buttons, std::int32_t language_offset,
+                HWND owner);
+  ~dialog_window();
+  dialog_window(const dialog_window&) = delete;
+  dialog_window& operator=(const dialog_window&) = delete;
+
+  HWND handle() const noexcept { return window_; }
+  // Set once a button or the close box closed the dialog: the button's index, -1 the close box.
+  std::optional<std::int32_t> closed_with() const noexcept { return closed_with_; }
+  std::int32_t language_offset() const noexcept { return language_; }
+
+  // Delivers every message waiting for this thread, then returns.
+  void pump();
+  // A person's loop: until the dialog closes.
+  std::int32_t run_modal();
+
+  // What the window shows, in the text host's form (`print`).
+  std::string render() const;
+  // The parts a script acts on, found afresh each time, in the order `print` shows them.
+  std::vector<field_control*> fields() const;
+  dropdown_control* operation_selector() const;
+  outline_control* outline() const;
+  std::vector<toolbar_control*> toolbars() const;
+  // The shown buttons: their windows and captions, left to right, with the button's index.
+  struct button {
+    HWND window;
+    std::string caption;
+    std::int32_t index;
+  };
+  std::vector<button> shown_buttons() const;
+
+  // Catches up with elements the plug-in added since (hands them their views).
+  void attach_views() { views_.attach(docker_); }
+  // Whether the plug-in told of a change since the last call.
+  bool take_changed() noexcept { return views_.take_changes() != 0; }
+
+ private:
+  static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l);
+  INT_PTR handle_message(UINT message, WPARAM w, LPARAM l);
+
+  void create_frame();
+  void build();
+  std::unique_ptr<window_node> build_node(tx_custom_pointer any, int depth);
+  void build_children(window_node& node, int depth);
+  void register_node(window_node& node);
+  void align_captions();
+  void layout();
+  void fit();
+  size_request request(window_node& node) const;
+  void place(window_node& node, const RECT& area);
+  void show_tree(window_node& node, bool shown);
+  void press(std::int32_t index);
+  void refresh_pending();
+  void changed(void* element, std::uint32_t what);
+  size_request content_request() const;
+
+  tx_custom_pointer docker_;
+  tx_custom_pointer buttons_;
+  std::int32_t language_;
+  HWND owner_;
+  bool owner_was_enabled_ = false;
+  HWND window_ = nullptr;
+  metrics metrics_;
+  HFONT bold_font_ = nullptr;
+  std::unique_ptr<window_node> root_;
+  std::vector<std::pair<HWND, std::int32_t>> buttons_shown_;
+  // Which node shows each element (tools, columns and checks map to their toolbar or outline).
+  std::unordered_map<void*, window_node*> nodes_;
+  // What the plug-in told since the window last read it, by element.
+  std::unordered_map<void*, std::uint32_t> pending_;
+  bool refresh_posted_ = false;
+  std::optional<std::int32_t> closed_with_;
+  dialog::element_views views_;
+  SIZE minimum_{};
+};
+
+}  // namespace tx::host::gui

@@ -1,0 +1,37 @@
+// Small helpers over the Win32 calls every control of the dialog window makes: UTF-8 texts in
+// and out of native windows, creating a child window in the dialog font, measuring text.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+#include "tx_host/gui/control.h"
+
+namespace tx::host::gui {
+
+std::wstring wide(std::string_view utf8);
+std::string utf8(std::wstring_view text);
+
+// The window's text, in UTF-8.
+std::string window_text(HWND window);
+void set_window_text(HWND window, std::string_view utf8);
+// The text of item `index` of a combo box's list, in UTF-8.
+std::string combo_item(HWND combo, int index);
+
+// A child window of `parent` in the dialog font, with a control id of its own (visible unless
+// `style` says otherwise: WS_CHILD | WS_VISIBLE are added).
+HWND make_child(HWND parent, const wchar_t* window_class, std::string_view text, DWORD style,
+                const metrics& m, DWORD ex_style = 0);
+
+// The width in pixels of `text` in the dialog font.
+int text_width(const metrics& m, std::string_view utf8);
+
+// Whether the window itself is marked shown (whatever its parent is).
+bool marked_visible(HWND window) noexcept;
+
+// A person's input as the control sends it to its parent: WM_COMMAND with `code`.
+void notify_parent(HWND control, UINT code);
+
+}  // namespace tx::host::gui
