@@ -330,15 +330,21 @@ void dialog_window::build_children(window_node& node, int depth) {
       using table = tx_grid_layout_interface_91;
       const std::int32_t rows = std::clamp(call(pair, &table::row_count), 0, kMaxLines);
       const std::int32_t columns = std::clamp(call(pair, &table::column_count), 0, kMaxLines);
+      // Visit cell finds (row, column) at index row + column, right for a single row or
+      // column only; a grid of several rows and columns is read by its true cells, with spans.
+      const bool single_line = rows <= 1 || columns <= 1;
       for (std::int32_t r = 0; r < rows; ++r) {
         for (std::int32_t c = 0; c < columns; ++c) {
           dialog::element_collector cell;
-          call(pair, &table::visit_cell, r, c, cell.pair());
-          const std::size_t first = node.children.size();
-          add(cell, r, c);
           std::int32_t span_rows = 1;
           std::int32_t span_columns = 1;
-          call(pair, &table::cell_span, r, c, &span_rows, &span_columns);
+          if (single_line) {
+            call(pair, &table::visit_cell, r, c, cell.pair());
+          } else {
+            call(pair, &table::visit_grid_cell, r, c, &span_rows, &span_columns, cell.pair());
+          }
+          const std::size_t first = node.children.size();
+          add(cell, r, c);
           for (std::size_t i = first; i < node.children.size(); ++i) {
             node.children[i]->row_span = std::clamp(span_rows, 1, rows - r);
             node.children[i]->column_span = std::clamp(span_columns, 1, columns - c);
