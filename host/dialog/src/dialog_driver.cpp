@@ -79,6 +79,7 @@ command_outcome dialog_driver::run(const command& c) const {
     case verb::expand:
     case verb::collapse:
     case verb::rename:
+    case verb::escape:
       return row_command(c);
     case verb::click:
       return click(c.arguments.at(0));
@@ -249,6 +250,8 @@ std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view ad
     default: {
       for (std::size_t column = 0; column < reader.columns().size(); ++column) {
         if (!reader.editable(column, row)) continue;
+        // Esc drops what was typed: the cell keeps its text.
+        if (what == verb::escape) return {};
         const std::u16string typed = to_utf16(text);
         call(reader.columns()[column], &tx_string_outline_column_interface_10::set_text, row,
              typed.c_str());

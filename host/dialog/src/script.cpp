@@ -15,8 +15,8 @@ struct verb_entry {
   std::string_view summary;
 };
 
-const std::array<verb_entry, 20>& verbs() {
-  static const std::array<verb_entry, 20> table{{
+const std::array<verb_entry, 21>& verbs() {
+  static const std::array<verb_entry, 21> table{{
       {verb::print, "print", {}, "render the dialog now"},
       {verb::help, "help", {}, "list the commands"},
       {verb::op, "op", {"OPERATION"}, "choose the shown operation (caption or number)"},
@@ -27,7 +27,8 @@ const std::array<verb_entry, 20>& verbs() {
       {verb::deselect, "deselect", {"ROW"}, "take the row out of the selection"},
       {verb::expand, "expand", {"ROW"}, "show the rows under the row"},
       {verb::collapse, "collapse", {"ROW"}, "hide the rows under the row"},
-      {verb::rename, "rename", {"ROW", "TEXT"}, "type TEXT into the row's editable cell"},
+      {verb::rename, "rename", {"ROW", "TEXT"}, "type TEXT into the row's editable cell, Enter"},
+      {verb::escape, "escape", {"ROW", "TEXT"}, "type TEXT into the row's editable cell, Esc"},
       {verb::click, "click", {"TOOL"}, "click a tool (id or caption)"},
       {verb::accept, "accept", {}, "press the accepting button"},
       {verb::close, "close", {}, "press the closing button"},

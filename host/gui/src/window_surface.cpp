@@ -95,6 +95,7 @@ command_outcome window_surface::act(const command& c) {
     case verb::expand:
     case verb::collapse:
     case verb::rename:
+    case verb::escape:
       return row_command(c);
     case verb::click:
       return click(c.arguments.at(0));
@@ -169,7 +170,7 @@ command_outcome window_surface::row_command(const command& c) {
     case verb::collapse:
       return failure(outline->expand(row, c.what == verb::expand));
     default:
-      return failure(outline->rename(row, c.arguments.at(1), true));
+      return failure(outline->rename(row, c.arguments.at(1), c.what == verb::rename));
   }
 }
 

@@ -31,6 +31,7 @@ TEST(ScriptLine, ParsesEveryCommandWithItsArgumentsAndTheSummaryNamesEach) {
       {"expand {1}", verb::expand, {"{1}"}},
       {"collapse Город", verb::collapse, {"Город"}},
       {"rename Дороги \"Улицы и дороги\"", verb::rename, {"Дороги", "Улицы и дороги"}},
+      {"escape Дороги Улицы", verb::escape, {"Дороги", "Улицы"}},
       {"click tx_prjrename_tree_undo_tool", verb::click, {"tx_prjrename_tree_undo_tool"}},
       {"accept", verb::accept, {}},
       {"close", verb::close, {}},
@@ -56,7 +57,7 @@ TEST(ScriptLine, ParsesEveryCommandWithItsArgumentsAndTheSummaryNamesEach) {
         << r.line;
   }
   // The rows hold every command, and the summary a line for each.
-  EXPECT_EQ(std::count(summary.begin(), summary.end(), '\n'), 20);
+  EXPECT_EQ(std::count(summary.begin(), summary.end(), '\n'), 21);
 }
 
 TEST(ScriptLine, QuotesBlanksAndCommentsAreReadAsWritten) {

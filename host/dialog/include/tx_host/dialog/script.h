@@ -24,7 +24,8 @@ enum class verb {
   deselect,    // ROW: take the row out of the selection
   expand,      // ROW: show the rows under the row
   collapse,    // ROW: hide the rows under the row
-  rename,      // ROW TEXT: type TEXT into the row's editable cell
+  rename,      // ROW TEXT: type TEXT into the row's editable cell, then Enter
+  escape,      // ROW TEXT: type TEXT into the row's editable cell, then Esc: nothing changes
   click,       // TOOL: click a toolbar tool by its id or caption
   accept,      // press the accepting button
   close,       // press the closing button
