@@ -81,21 +81,7 @@ std::string input_text(const element& e, const vocabulary& words) {
 }
 
 std::string toolbar_text(tx_custom_pointer toolbar, const vocabulary& words) {
-  std::string text(words.tools);
-  text += ":";
-  int group = -1;
-  for (const tool_entry& t : tools_of(toolbar)) {
-    if (!tool_visible(t.tool)) continue;
-    text += group < 0 ? " " : t.group != group ? " ‖ " : " | ";
-    group = t.group;
-    const std::string caption = tool_caption(t.tool).value_or(t.id);
-    std::string shown = caption;
-    if (const std::optional<std::string> hint = tool_hint(t.tool); hint && *hint != caption) {
-      shown += " [" + *hint + "]";
-    }
-    text += tool_enabled(t.tool) ? shown : "(" + shown + ")";
-  }
-  return text;
+  return format_toolbar(words.tools, tool_values_of(toolbar));
 }
 
 std::string bitmap_text(tx_custom_pointer bitmap) {
