@@ -450,7 +450,23 @@ LRESULT outline_control::custom_draw(NMLVCUSTOMDRAW& draw) const {
     case CDDS_PREPAINT:
       return CDRF_NOTIFYITEMDRAW;
     case CDDS_ITEMPREPAINT:
-      return CDRF_NOTIFYSUBITEMDRAW;
+      return CDRF_NOTIFYSUBITEMDRAW | CDRF_NOTIFYPOSTPAINT;
+    case CDDS_ITEMPOSTPAINT: {
+      // The list blends the small image of a selected row with the highlight; a tick box is
+      // drawn again as it is, like a check box on a selected row.
+      const std::size_t position = draw.nmcd.dwItemSpec;
+      if (!present(checks_) || position >= rows_.size() ||
+          SendMessageW(list_, LVM_GETITEMSTATE, position, LVIS_SELECTED) == 0) {
+        return CDRF_DODEFAULT;
+      }
+      RECT icon{LVIR_ICON, 0, 0, 0};
+      if (SendMessageW(list_, LVM_GETITEMRECT, position, reinterpret_cast<LPARAM>(&icon))) {
+        const tx_custom_pointer row = rows_[position].row;
+        ImageList_Draw(images_->boxes(), box_image(ticked(row), tick_enabled(row)), draw.nmcd.hdc,
+                       icon.left, icon.top, ILD_NORMAL);
+      }
+      return CDRF_DODEFAULT;
+    }
     case CDDS_ITEMPREPAINT | CDDS_SUBITEM: {
       const std::size_t position = draw.nmcd.dwItemSpec;
       if (position >= rows_.size()) return CDRF_DODEFAULT;

@@ -94,6 +94,12 @@ LRESULT CALLBACK toolbar_control::strip_procedure(HWND strip, UINT message, WPAR
     self->invoke(LOWORD(wparam));
     return 0;
   }
+  if (self != nullptr && message == WM_NOTIFY) {
+    auto& header = *reinterpret_cast<NMHDR*>(lparam);
+    if (header.hwndFrom == self->bar_ && header.code == NM_CUSTOMDRAW) {
+      return self->draw_text_button(reinterpret_cast<NMTBCUSTOMDRAW&>(header));
+    }
+  }
   return DefWindowProcW(strip, message, wparam, lparam);
 }
 
@@ -152,7 +158,58 @@ void toolbar_control::load() {
     SendMessageW(bar_, TB_ADDBUTTONSW, buttons.size(), reinterpret_cast<LPARAM>(buttons.data()));
   }
   read_texts();
+  fit_text_buttons();
   SendMessageW(bar_, TB_AUTOSIZE, 0, 0);
+}
+
+void toolbar_control::fit_text_buttons() {
+  // A button that shows its caption is as wide as the caption with a margin on each side; it
+  // keeps no room for a picture it does not have (see draw_text_button).
+  HDC dc = GetDC(bar_);
+  HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(bar_, WM_GETFONT, 0, 0)));
+  for (const tool& t : tools_) {
+    if (t.picture) continue;
+    const std::u16string text = read_text(bar_, TB_GETBUTTONTEXTW, t.command, 1024);
+    SIZE size{};
+    GetTextExtentPoint32W(dc, reinterpret_cast<const wchar_t*>(text.c_str()),
+                          static_cast<int>(text.size()), &size);
+    TBBUTTONINFOW info{};
+    info.cbSize = sizeof(info);
+    info.dwMask = TBIF_SIZE | TBIF_STYLE;
+    info.fsStyle = BTNS_BUTTON | BTNS_SHOWTEXT;
+    info.cx = static_cast<WORD>(size.cx + side_);
+    SendMessageW(bar_, TB_SETBUTTONINFOW, t.command, reinterpret_cast<LPARAM>(&info));
+  }
+  SelectObject(dc, old);
+  ReleaseDC(bar_, dc);
+}
+
+LRESULT toolbar_control::draw_text_button(NMTBCUSTOMDRAW& draw) const {
+  if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  const tool* t = tool_of(static_cast<int>(draw.nmcd.dwItemSpec));
+  if (t == nullptr || t->picture) return CDRF_DODEFAULT;
+  // The toolbar would set the caption off by a picture's width: the caption is drawn here,
+  // centred, in a flat button's frame.
+  RECT r = draw.nmcd.rc;
+  const UINT state = draw.nmcd.uItemState;
+  if ((state & CDIS_SELECTED) != 0) {
+    DrawEdge(draw.nmcd.hdc, &r, BDR_SUNKENOUTER, BF_RECT);
+    OffsetRect(&r, 1, 1);
+  } else if ((state & CDIS_HOT) != 0 && (state & CDIS_DISABLED) == 0) {
+    DrawEdge(draw.nmcd.hdc, &r, BDR_RAISEDINNER, BF_RECT);
+  }
+  const std::u16string text = read_text(bar_, TB_GETBUTTONTEXTW, t->command, 1024);
+  HGDIOBJ old =
+      SelectObject(draw.nmcd.hdc, reinterpret_cast<HFONT>(SendMessageW(bar_, WM_GETFONT, 0, 0)));
+  SetBkMode(draw.nmcd.hdc, TRANSPARENT);
+  SetTextColor(draw.nmcd.hdc,
+               GetSysColor((state & CDIS_DISABLED) != 0 ? COLOR_GRAYTEXT : COLOR_BTNTEXT));
+  DrawTextW(draw.nmcd.hdc, reinterpret_cast<const wchar_t*>(text.c_str()),
+            static_cast<int>(text.size()), &r,
+            DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+  SelectObject(draw.nmcd.hdc, old);
+  return CDRF_SKIPDEFAULT;
 }
 
 void toolbar_control::read_texts() {
@@ -193,7 +250,10 @@ void toolbar_control::refresh(std::uint32_t changes) {
     load();  // new pictures: the buttons are made again
     return;
   }
-  if ((changes & TX_CHANGED_TEXTS) != 0) read_texts();
+  if ((changes & TX_CHANGED_TEXTS) != 0) {
+    read_texts();
+    fit_text_buttons();
+  }
   if ((changes & (TX_CHANGED_STATE | TX_CHANGED_TEXTS)) != 0) {
     read_states();
     SendMessageW(bar_, TB_AUTOSIZE, 0, 0);

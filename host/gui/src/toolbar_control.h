@@ -52,6 +52,8 @@ class toolbar_control final : public control {
   // Reads the tools and makes the buttons afresh.
   void load();
   void read_texts();
+  void fit_text_buttons();
+  LRESULT draw_text_button(NMTBCUSTOMDRAW& draw) const;
   void read_states();
   void invoke(int command);
   const tool* tool_of(int command) const noexcept;

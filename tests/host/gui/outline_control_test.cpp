@@ -125,6 +125,8 @@ TEST_F(outline_window, ATickOnASelectedRowTicksEverySelectedRow) {
   }
   ASSERT_EQ(rows->tick("Водоёмы", true), "");
   pump();
+  RECT area{};
+  screenshot("selection", area);
   const host::dialog::outline_reader reader(outline);
   for (const char* address : {"Переулки", "Водоёмы", "Колодцы"}) {
     EXPECT_TRUE(reader.checked(row(address))) << address;
@@ -188,6 +190,8 @@ TEST_F(outline_window, ADoubleClickOnANewNameEditsItInPlace) {
   HWND edit = FindWindowExW(rows->list(), nullptr, L"EDIT", nullptr);
   ASSERT_NE(edit, nullptr);
   for (const wchar_t c : std::wstring(L"Проезды")) SendMessageW(edit, WM_CHAR, c, 0);
+  RECT area{};
+  screenshot("editor", area);
   SendMessageW(edit, WM_KEYDOWN, VK_RETURN, 0);
   pump();
   EXPECT_EQ(FindWindowExW(rows->list(), nullptr, L"EDIT", nullptr), nullptr);
@@ -227,6 +231,21 @@ TEST_F(outline_window, FaultyRowsAreRedAndTheLastStepsNamesBold) {
   EXPECT_GT(count("Переулки", 0, red), 10);
   EXPECT_EQ(count("Магистрали", 0, red), 0);
   EXPECT_GT(count("Канализация", 1, ink), count("Водопровод", 1, ink) * 6 / 5);
+}
+
+TEST_F(outline_window, AnotherLanguageShowsOnceTheTextsAreReadAgain) {
+  tx_host_set_lng(50000);
+  rows->refresh(TX_CHANGED_TEXTS);
+  tools->refresh(TX_CHANGED_TEXTS);
+  ASSERT_EQ(rows->select("Улицы", true), "");
+  ASSERT_EQ(rows->rename("Магистрали", "Avenues", true), "");
+  pump();
+  EXPECT_EQ(text_rows().front().find("Old name"), 9u);  // after "   " and the box's room
+  EXPECT_EQ(joined(window_rows()), joined(text_rows()));
+  EXPECT_EQ(window_toolbar(), text_toolbar());
+  EXPECT_NE(window_toolbar().find(": Expand | Collapse ‖"), std::string::npos);
+  RECT area{};
+  screenshot("english", area);
 }
 
 }  // namespace
