@@ -10,6 +10,9 @@ using outline_table = tx_outline_interface_32;
 
 // Deeper than any project's tree: a row that is its own descendant stops here.
 constexpr std::int32_t kMaxDepth = 256;
+// Far more rows than any project shows (sixteen times the largest one timed): an outline that
+// answers absurd counts is shown this far, not until memory runs out.
+constexpr std::size_t kMaxRows = std::size_t{1} << 24;
 
 }  // namespace
 
@@ -18,7 +21,7 @@ void visible_rows::append(tx_custom_pointer parent, std::int32_t depth,
                           std::size_t base) {
   if (depth >= kMaxDepth) return;
   const std::int32_t count = call(outline_, &outline_table::row_count, parent);
-  for (std::int32_t i = 0; i < count; ++i) {
+  for (std::int32_t i = 0; i < count && base + out.size() < kMaxRows; ++i) {
     const tx_custom_pointer row = call(outline_, &outline_table::row, parent, i);
     const std::uint64_t key = call(row, &tx_outline_item_interface_0::key);
     if (call(outline_, &outline_table::selected, row)) selected.push_back(base + out.size());
