@@ -1,6 +1,7 @@
 # The window's outline (a virtual tree-list over the plug-in's rows) and toolbar controls.
 target_sources(tx_host_gui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/src/cell_editor.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/src/outline_actions.cpp
   ${CMAKE_CURRENT_LIST_DIR}/src/outline_control.cpp
   ${CMAKE_CURRENT_LIST_DIR}/src/outline_images.cpp
   ${CMAKE_CURRENT_LIST_DIR}/src/tool_picture.cpp
