@@ -6,6 +6,7 @@
 #include "tx/toolkit/outline.h"
 #include "tx_host/dialog/outline_reader.h"
 #include "tx_host/dialog/row_format.h"
+#include "tx_host/services/interface_object.h"
 #include "tx_host/services/utf.h"
 
 namespace tx::host::gui {
