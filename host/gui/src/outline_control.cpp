@@ -515,11 +515,35 @@ bool outline_control::on_notify(const NMHDR& header, LRESULT& result) {
       return true;
     }
     case LVN_ODFINDITEMW:
-      result = -1;  // typing a name's first letters finds nothing: keys act on the tree
+      result = find_typed(reinterpret_cast<const NMLVFINDITEMW&>(header));
       return true;
     default:
       return false;
   }
+}
+
+LRESULT outline_control::find_typed(const NMLVFINDITEMW& find) const {
+  // Typing a name's first letters goes to the next shown row whose first text starts so, as in
+  // any list; letters are compared without case.
+  if ((find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || find.lvfi.psz == nullptr ||
+      rows_.size() == 0) {
+    return -1;
+  }
+  std::wstring typed(find.lvfi.psz);
+  if (typed.empty()) return -1;
+  CharLowerBuffW(typed.data(), static_cast<DWORD>(typed.size()));
+  const std::size_t count = rows_.size();
+  const std::size_t start = find.iStart >= 0 ? static_cast<std::size_t>(find.iStart) % count : 0;
+  for (std::size_t n = 0; n < count; ++n) {
+    const std::size_t i = (start + n) % count;
+    std::u16string text = cell(0, rows_[i].row);
+    if (text.size() < typed.size()) continue;
+    text.resize(typed.size());
+    auto* letters = reinterpret_cast<wchar_t*>(text.data());
+    CharLowerBuffW(letters, static_cast<DWORD>(text.size()));
+    if (std::wstring_view(letters, text.size()) == typed) return static_cast<LRESULT>(i);
+  }
+  return -1;
 }
 
 LRESULT CALLBACK outline_control::list_procedure(HWND list, UINT message, WPARAM wparam,

@@ -91,6 +91,7 @@ class outline_control final : public control {
   std::optional<std::size_t> first_editable(tx_custom_pointer row) const noexcept;
 
   void fill_item(LVITEMW& item) const;
+  LRESULT find_typed(const NMLVFINDITEMW& find) const;
   LRESULT custom_draw(NMLVCUSTOMDRAW& draw) const;
 
   // The list's position of the row `address` names, or the error text.

@@ -154,6 +154,8 @@ TEST_F(outline_window, KeysActOnTheFocusedRow) {
       {WM_KEYDOWN, VK_SPACE, "Переулки", "[x] Переулки", "Переулки"},
       // Left on a row without rows under it goes to the row above, which is then selected.
       {WM_KEYDOWN, VK_LEFT, "Переулки", ">", "Улицы"},
+      // A letter goes to the next row whose name starts with it.
+      {WM_CHAR, L'к', "Улицы", ">", "Кварталы"},
   };
   for (const key_case& c : cases) {
     SCOPED_TRACE(c.focused);
@@ -168,7 +170,7 @@ TEST_F(outline_window, KeysActOnTheFocusedRow) {
     focus.state = LVIS_FOCUSED;
     SendMessageW(rows->list(), LVM_SETITEMSTATE, position(c.focused),
                  reinterpret_cast<LPARAM>(&focus));
-    SendMessageW(rows->list(), c.message, c.key, 0);
+    SendMessageW(rows->list(), c.message, c.key, 1);  // one key stroke
     pump();
     const std::string line = line_of(window_rows(), c.row);
     EXPECT_NE(line.find(c.line), std::string::npos) << line;
