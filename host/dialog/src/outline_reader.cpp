@@ -5,6 +5,7 @@
 
 #include "tx/toolkit/outline.h"
 #include "tx_host/dialog/elements.h"
+#include "tx_host/dialog/row_format.h"
 
 namespace tx::host::dialog {
 namespace {
@@ -16,21 +17,6 @@ using checks_table = tx_outline_checks_interface_1;
 // Deeper than any project's tree: a row that is its own descendant stops here.
 constexpr std::size_t kMaxRowDepth = 256;
 constexpr std::string_view kStep = " / ";
-
-std::size_t display_width(std::string_view utf8) noexcept {
-  return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-  }));
-}
-
-void pad_to(std::string& text, std::size_t width) {
-  const std::size_t shown = display_width(text);
-  if (shown < width) text.append(width - shown, ' ');
-}
-
-void trim_right(std::string& text) {
-  while (!text.empty() && text.back() == ' ') text.pop_back();
-}
 
 // "{N}" at the start of a path, followed by a step separator or the end: N; otherwise nothing.
 std::optional<std::int32_t> positional_step(std::string_view rest) {
@@ -107,43 +93,17 @@ class row_finder {
   std::vector<found_row> found_;
 };
 
-class rows_printer {
+// Gathers the shown rows, depth first, as plain values for the shared formatting.
+class rows_gatherer {
  public:
-  explicit rows_printer(const outline_reader& reader)
-      : reader_(reader), columns_(reader.columns().size()) {}
+  explicit rows_gatherer(const outline_reader& reader) : reader_(reader) {}
 
-  std::vector<std::string> print() {
+  std::vector<row_values> gather() {
     rows(tx_custom_pointer{}, 0);
-    // The header's first cell stands where a top-level row's text starts.
-    std::vector<std::string> header(std::max<std::size_t>(columns_, 1));
-    bool any_header = false;
-    for (std::size_t c = 0; c < columns_; ++c) {
-      const std::optional<std::string> text = reader_.header(c);
-      any_header = any_header || text.has_value();
-      header[c] = (c == 0 ? std::string(lead_width(0), ' ') : "") + text.value_or("");
-    }
-    std::vector<std::size_t> widths(header.size(), 0);
-    for (std::size_t c = 0; c < header.size(); ++c) {
-      if (any_header) widths[c] = display_width(header[c]);
-      for (const auto& row : rows_) widths[c] = std::max(widths[c], display_width(row.cells[c]));
-    }
-    std::vector<std::string> lines;
-    lines.reserve(rows_.size() + 1);
-    if (any_header) lines.push_back(line("   ", header, widths));
-    for (const auto& row : rows_) lines.push_back(line(row.markers, row.cells, widths));
-    return lines;
+    return std::move(rows_);
   }
 
  private:
-  struct printed_row {
-    std::string markers;
-    std::vector<std::string> cells;
-  };
-
-  std::size_t lead_width(std::size_t depth) const noexcept {
-    return 2 * depth + 2 + (present(reader_.checks()) ? 4 : 0);
-  }
-
   void rows(tx_custom_pointer parent, std::size_t depth) {
     if (depth >= kMaxRowDepth) return;
     const std::int32_t count = reader_.row_count(parent);
@@ -151,40 +111,26 @@ class rows_printer {
       const tx_custom_pointer row = reader_.row(parent, i);
       const bool has_children = reader_.row_count(row) > 0;
       const bool expanded = has_children && reader_.expanded(row);
-      printed_row printed;
-      printed.markers =
-          std::string(reader_.selected(row) ? ">" : " ") + (reader_.faulty(row) ? "!" : " ") + " ";
-      std::string lead(2 * depth, ' ');
-      lead += !has_children ? "  " : expanded ? "▾ " : "▸ ";
+      row_values values;
+      values.selected = reader_.selected(row);
+      values.faulty = reader_.faulty(row);
+      values.depth = depth;
+      values.expander = !has_children ? row_expander::none
+                        : expanded    ? row_expander::expanded
+                                      : row_expander::collapsed;
       if (present(reader_.checks())) {
-        const bool on = reader_.checked(row);
-        lead += reader_.check_enabled(row) ? (on ? "[x] " : "[ ] ") : (on ? "(x) " : "( ) ");
+        values.box = row_box{reader_.checked(row), reader_.check_enabled(row)};
       }
-      printed.cells.resize(std::max<std::size_t>(columns_, 1));
-      printed.cells[0] = std::move(lead);
-      for (std::size_t c = 0; c < columns_; ++c) {
-        printed.cells[c] += reader_.cell(c, row).value_or("");
-        if (reader_.emphasized(c, row)) printed.cells[c] += " *";
+      for (std::size_t c = 0; c < reader_.columns().size(); ++c) {
+        values.cells.push_back({reader_.cell(c, row).value_or(""), reader_.emphasized(c, row)});
       }
-      rows_.push_back(std::move(printed));
+      rows_.push_back(std::move(values));
       if (expanded) rows(row, depth + 1);
     }
   }
 
-  static std::string line(std::string start, const std::vector<std::string>& cells,
-                          const std::vector<std::size_t>& widths) {
-    for (std::size_t c = 0; c < cells.size(); ++c) {
-      std::string cell = cells[c];
-      if (c + 1 < cells.size()) pad_to(cell, widths[c]);
-      start += (c == 0 ? "" : " │ ") + cell;
-    }
-    trim_right(start);
-    return start;
-  }
-
   const outline_reader& reader_;
-  std::size_t columns_;
-  std::vector<printed_row> rows_;
+  std::vector<row_values> rows_;
 };
 
 }  // namespace
@@ -282,7 +228,9 @@ found_row find_row(const outline_reader& reader, std::string_view address) {
 }
 
 std::vector<std::string> render_rows(const outline_reader& reader) {
-  return rows_printer(reader).print();
+  std::vector<std::optional<std::string>> headers;
+  for (std::size_t c = 0; c < reader.columns().size(); ++c) headers.push_back(reader.header(c));
+  return format_rows(headers, present(reader.checks()), rows_gatherer(reader).gather());
 }
 
 }  // namespace tx::host::dialog

@@ -72,12 +72,7 @@ std::string input_text(const element& e, const vocabulary& words) {
 }
 
 std::string toolbar_text(tx_custom_pointer toolbar, const vocabulary& words) {
-  std::vector<text::tool_text> tools;
-  for (const tool_entry& t : tools_of(toolbar)) {
-    tools.push_back({t.group, tool_caption(t.tool).value_or(t.id), tool_hint(t.tool),
-                     tool_enabled(t.tool), tool_visible(t.tool)});
-  }
-  return text::toolbar(tools, words);
+  return format_toolbar(words.tools, tool_values_of(toolbar));
 }
 
 std::string bitmap_text(tx_custom_pointer bitmap) {

@@ -55,16 +55,17 @@ std::optional<picture_size> tool_image(tx_custom_pointer tool) {
   });
 }
 
-std::string describe_tools(tx_custom_pointer toolbar) {
-  std::string text;
+std::vector<tool_values> tool_values_of(tx_custom_pointer toolbar) {
+  std::vector<tool_values> values;
   for (const tool_entry& t : tools_of(toolbar)) {
-    text += t.id + ": «" + tool_caption(t.tool).value_or("") + "», " +
-            describe_picture(tool_image(t.tool));
-    if (!tool_enabled(t.tool)) text += ", disabled";
-    if (!tool_visible(t.tool)) text += ", hidden";
-    text += '\n';
+    values.push_back({t.id, tool_caption(t.tool), tool_hint(t.tool), tool_image(t.tool),
+                      tool_enabled(t.tool), tool_visible(t.tool), t.group});
   }
-  return text;
+  return values;
+}
+
+std::string describe_tools(tx_custom_pointer toolbar) {
+  return format_tool_listing(tool_values_of(toolbar));
 }
 
 bool tool_enabled(tx_custom_pointer tool) noexcept {

@@ -12,12 +12,8 @@
 #include "tx_host/dialog/text_renderer.h"
 #include "tx_host/dialog/toolbar_reader.h"
 #include "tx_host/dialog/vocabulary.h"
-#if __has_include("outline_control.h")
 #include "outline_control.h"
 #include "toolbar_control.h"
-#else
-#include "placeholder_control.h"
-#endif
 
 namespace tx::host::gui {
 namespace {

@@ -9,12 +9,8 @@
 #include "screenshot.h"
 #include "tx_host/dialog/script_values.h"
 #include "tx_host/dialog/vocabulary.h"
-#if __has_include("outline_control.h")
 #include "outline_control.h"
 #include "toolbar_control.h"
-#else
-#include "placeholder_control.h"
-#endif
 
 namespace tx::host::gui {
 namespace {

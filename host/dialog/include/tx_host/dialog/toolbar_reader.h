@@ -8,6 +8,7 @@
 
 #include "tx/abi.h"
 #include "tx_host/dialog/picture_reader.h"
+#include "tx_host/dialog/toolbar_format.h"
 #include "tx_host/services/interface_object.h"
 
 namespace tx::host::dialog {
@@ -35,6 +36,9 @@ class tool_collector final : public interface_object {
 
 // The tools of `toolbar` (a tx_toolbar_interface_6 pair), in toolbar order.
 std::vector<tool_entry> tools_of(tx_custom_pointer toolbar);
+
+// What the text host shows of each tool of `toolbar`, in toolbar order.
+std::vector<tool_values> tool_values_of(tx_custom_pointer toolbar);
 
 // One line a tool, in toolbar order: "ID: «CAPTION», image 16×16" or "…, no image", with
 // ", disabled" and ", hidden" added when so.

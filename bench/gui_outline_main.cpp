@@ -1,0 +1,297 @@
+// The window host's outline over a project of a million elements, under Wine with a display:
+// how long until the window is usable, and how long each step a person takes keeps them
+// waiting — scrolling a page, expanding and collapsing a row, ticking a row, the redraw after
+// Execute — with the plug-in's own share told apart where it can be. Each step runs a few times
+// and the median is shown. Not a test: nothing is asserted.
+//
+//   xvfb-run -a build/windows/wine-run.sh build/windows/bin/tx_gui_outline_bench.exe [ELEMENTS]
+#include <windows.h>
+// After windows.h, which it needs.
+#include <commctrl.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "element/project_rename_widget.h"
+#include "outline_control.h"
+#include "toolbar_control.h"
+#include "tree_project_file.h"
+#include "tx/toolkit/controls.h"
+#include "tx/toolkit/outline.h"
+#include "tx/toolkit/toolbar.h"
+#include "tx_host/basic.h"
+#include "tx_host/dialog/elements.h"
+#include "tx_host/dialog/outline_reader.h"
+#include "tx_host/dialog/toolbar_reader.h"
+#include "tx_host/msgs.h"
+#include "tx_host/project.h"
+#include "tx_host/services/interface_object.h"
+#include "tx_host/services/utf.h"
+
+namespace tx::bench {
+namespace {
+
+using clock_type = std::chrono::steady_clock;
+
+double milliseconds_of(const std::function<void()>& step) {
+  const auto start = clock_type::now();
+  step();
+  return std::chrono::duration<double, std::milli>(clock_type::now() - start).count();
+}
+
+// The median of `runs` runs of `step`, each after `prepare` (not timed).
+double median_ms(int runs, const std::function<void()>& prepare,
+                 const std::function<void()>& step) {
+  std::vector<double> times;
+  for (int i = 0; i < runs; ++i) {
+    prepare();
+    times.push_back(milliseconds_of(step));
+  }
+  std::sort(times.begin(), times.end());
+  return times[times.size() / 2];
+}
+
+// Hands what an element tells to one control at once, as the dialog window's views do.
+class refreshing_view final : public host::interface_object {
+ public:
+  explicit refreshing_view(host::gui::control& target) : target_(target) {}
+  tx_custom_pointer pair() noexcept;
+  void changed(std::uint32_t what) { target_.refresh(what); }
+
+ private:
+  std::span<const host::interface_entry> interfaces() const noexcept override;
+  host::gui::control& target_;
+};
+
+constexpr tx_element_view_interface_0 kViewTable{
+    &host::root_slot,
+    [](void* self, std::uint32_t what) noexcept {
+      host::object_of<refreshing_view>(self).changed(what);
+    },
+};
+constexpr host::interface_entry kViewInterfaces[]{{TX_ELEMENT_VIEW_INTERFACE_0, &kViewTable}};
+tx_custom_pointer refreshing_view::pair() noexcept { return {&kViewTable, object_half()}; }
+std::span<const host::interface_entry> refreshing_view::interfaces() const noexcept {
+  return kViewInterfaces;
+}
+
+class parts final : public host::dialog::element_listener {
+ public:
+  void leaf(const host::dialog::element& e) override {
+    if (e.kind == host::dialog::element_kind::outline) outline = e.pair;
+    if (e.kind == host::dialog::element_kind::toolbar) toolbar = e.pair;
+    if (e.kind == host::dialog::element_kind::assisted_input) inputs.push_back(e.pair);
+  }
+  tx_custom_pointer outline{};
+  tx_custom_pointer toolbar{};
+  std::vector<tx_custom_pointer> inputs;
+};
+
+void pump(HWND window) {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+  UpdateWindow(window);
+}
+
+std::vector<host::gui::control*> controls;
+
+LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+  LRESULT result = 0;
+  if (message == WM_NOTIFY) {
+    for (host::gui::control* c : controls) {
+      if (c->on_notify(*reinterpret_cast<const NMHDR*>(lparam), result)) return result;
+    }
+  }
+  return DefWindowProcW(window, message, wparam, lparam);
+}
+
+// Asks what reading the rows asks of each shown row (the row, its key, whether it is selected
+// and expanded), keeping nothing: the plug-in's share of a rebuild.
+std::size_t row_questions(tx_custom_pointer outline, tx_custom_pointer parent) {
+  std::size_t answers = 0;
+  const std::int32_t count = host::call(outline, &tx_outline_interface_32::row_count, parent);
+  for (std::int32_t i = 0; i < count; ++i) {
+    const tx_custom_pointer row = host::call(outline, &tx_outline_interface_32::row, parent, i);
+    answers += host::call(row, &tx_outline_item_interface_0::key) != 0;
+    answers += host::call(outline, &tx_outline_interface_32::selected, row);
+    if (host::call(outline, &tx_outline_interface_32::expanded, row)) {
+      answers += row_questions(outline, row);
+    }
+  }
+  return answers;
+}
+
+void line(const char* what, double ms) { std::printf("  %-58s %9.1f ms\n", what, ms); }
+
+int run(std::size_t elements) {
+  const auto file = scale_project_file(TX_SCALE_PROJECTS, elements);
+  if (!file || !tx_host_project_load(file->string().c_str())) {
+    std::fprintf(stderr, "tx_gui_outline_bench: cannot open the project of %zu elements\n",
+                 elements);
+    return 1;
+  }
+  tx_host_set_lng(50000);
+  std::printf("The window's outline over %zu elements (median of the runs)\n", elements);
+  auto widget = std::make_unique<project_rename_widget>();
+  line("plug-in: the dialog's tree built from the project",
+       milliseconds_of([&] { widget->open(); }));
+  parts found;
+  host::dialog::walk(widget->layout(), found, host::dialog::walk_scope::shown);
+
+  INITCOMMONCONTROLSEX common{sizeof(common), ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
+  InitCommonControlsEx(&common);
+  WNDCLASSEXW type{};
+  type.cbSize = sizeof(type);
+  type.lpfnWndProc = &window_procedure;
+  type.hInstance = GetModuleHandleW(nullptr);
+  type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+  type.lpszClassName = L"tx_bench_window";
+  RegisterClassExW(&type);
+  HWND window = CreateWindowExW(0, type.lpszClassName, L"bench", WS_OVERLAPPEDWINDOW, 0, 0, 800,
+                                700, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+  ShowWindow(window, SW_SHOW);
+  pump(window);
+  host::gui::metrics m;
+  m.font = static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
+  m.bold_font = m.font;
+
+  std::unique_ptr<host::gui::outline_control> rows;
+  std::unique_ptr<refreshing_view> view;
+  line("window usable: the outline made, placed and drawn", milliseconds_of([&] {
+         rows = std::make_unique<host::gui::outline_control>(window, found.outline, m);
+         rows->place({10, 40, 790, 660});
+         pump(window);
+       }));
+  controls = {rows.get()};
+  view = std::make_unique<refreshing_view>(*rows);
+  const host::dialog::outline_reader reader(found.outline);
+  host::call(found.outline, &tx_outline_interface_32::set_view, view->pair());
+  host::call(reader.checks(), &tx_outline_checks_interface_1::set_view, view->pair());
+  for (const tx_custom_pointer c : reader.columns()) {
+    host::call(c, &tx_string_outline_column_interface_10::set_view, view->pair());
+  }
+  host::gui::toolbar_control tools(window, found.toolbar, m);
+  refreshing_view tools_view(tools);
+  const std::vector<host::dialog::tool_entry> tool_list = host::dialog::tools_of(found.toolbar);
+  for (const auto& t : tool_list) {
+    host::call(t.tool, &tx_action_tool_interface_0::set_view, tools_view.pair());
+  }
+  const auto click = [&](const char* tool) {
+    const std::string error = tools.click(tool);
+    if (!error.empty()) std::fprintf(stderr, "tx_gui_outline_bench: %s\n", error.c_str());
+    pump(window);
+  };
+  std::printf("  rows shown at first: %zu\n", rows->shown_rows());
+
+  HWND list = rows->list();
+  const auto scroll_to = [&](std::size_t position) {
+    SendMessageW(list, LVM_ENSUREVISIBLE, position, FALSE);
+    pump(window);
+  };
+  constexpr int runs = 5;
+  line("expand every row (the Expand tool: plug-in, rebuild, drawing)",
+       milliseconds_of([&] { click("Expand"); }));
+  std::printf("  rows shown: %zu (flat index %zu bytes)\n", rows->shown_rows(),
+              rows->shown_rows() * sizeof(host::gui::visible_row));
+  line("  of which the host: rebuilding the rows and drawing them",
+       median_ms(
+           runs, [] {},
+           [&] {
+             rows->refresh(TX_CHANGED_ROWS);
+             pump(window);
+           }));
+  line("    of which the plug-in answering the row questions",
+       median_ms(
+           runs, [] {}, [&] { row_questions(found.outline, tx_custom_pointer{}); }));
+  scroll_to(0);
+  line("scroll one page down", median_ms(
+                                   runs, [] {},
+                                   [&] {
+                                     SendMessageW(list, WM_VSCROLL, SB_PAGEDOWN, 0);
+                                     pump(window);
+                                   }));
+  line("scroll to the middle of the list",
+       median_ms(
+           runs, [&] { scroll_to(0); }, [&] { scroll_to(rows->shown_rows() / 2); }));
+  scroll_to(0);
+  const std::string group = "2D scenes / map layers 1 / layer group 1";
+  line("collapse a row near the top (all rows below it move up)", median_ms(
+                                                                      runs,
+                                                                      [&] {
+                                                                        rows->expand(group, true);
+                                                                        pump(window);
+                                                                      },
+                                                                      [&] {
+                                                                        rows->expand(group, false);
+                                                                        pump(window);
+                                                                      }));
+  line("expand it again (its 2,550 rows spliced in)", median_ms(
+                                                          runs,
+                                                          [&] {
+                                                            rows->expand(group, false);
+                                                            pump(window);
+                                                          },
+                                                          [&] {
+                                                            rows->expand(group, true);
+                                                            pump(window);
+                                                          }));
+  const std::string layer = "2D scenes / map layers 1 / layer group 1 / layer group 1.1 / {1}";
+  line("tick a row, then untick it", median_ms(
+                                         runs, [] {},
+                                         [&] {
+                                           rows->tick(layer, true);
+                                           pump(window);
+                                           rows->tick(layer, false);
+                                           pump(window);
+                                         }) /
+                                         2);
+  line("find a row by its path (part of every script action above)",
+       median_ms(
+           runs, [] {}, [&] { rows->select(layer, false); }));
+
+  // Execute: «layer» → «слой» over every element.
+  click("Select All");
+  const std::u16string find = u"layer";
+  const std::u16string replace = u"слой";
+  host::call(found.inputs.at(0), &tx_assisted_input_interface_3::set_text, find.c_str());
+  host::call(found.inputs.at(1), &tx_assisted_input_interface_3::set_text, replace.c_str());
+  line("Execute over every element (plug-in, rebuild, drawing)",
+       milliseconds_of([&] { click("Execute"); }));
+  line("  of which the host: the redraw after Execute", median_ms(
+                                                            runs, [] {},
+                                                            [&] {
+                                                              rows->refresh(TX_CHANGED_ROWS);
+                                                              pump(window);
+                                                            }));
+  line("    of which the plug-in answering the row questions",
+       median_ms(
+           runs, [] {}, [&] { row_questions(found.outline, tx_custom_pointer{}); }));
+  line("undo (the plug-in's step back, then the redraw)", milliseconds_of([&] { click("Undo"); }));
+
+  for (const auto& t : tool_list) {
+    host::call(t.tool, &tx_action_tool_interface_0::set_view, tx_custom_pointer{});
+  }
+  host::call(found.outline, &tx_outline_interface_32::set_view, tx_custom_pointer{});
+  host::call(reader.checks(), &tx_outline_checks_interface_1::set_view, tx_custom_pointer{});
+  for (const tx_custom_pointer c : reader.columns()) {
+    host::call(c, &tx_string_outline_column_interface_10::set_view, tx_custom_pointer{});
+  }
+  controls.clear();
+  rows.reset();
+  DestroyWindow(window);
+  return 0;
+}
+
+}  // namespace
+}  // namespace tx::bench
+
+int main(int argc, char** argv) {
+  const std::size_t elements = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1000000;
+  return tx::bench::run(elements);
+}

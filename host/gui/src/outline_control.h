@@ -1,0 +1,131 @@
+// The outline as a tree-list: a virtual list view (LVS_OWNERDATA) in report view whose first
+// column shows each row's expander, tick box and first text, indented by depth, and whose other
+// columns show the further texts under the plug-in's headers. The list asks only for the rows on
+// screen; they come from a flat index of the shown rows (visible_rows), rebuilt when the plug-in
+// redraws and spliced when one row expands or collapses. Every text, tick, state and look is
+// read from the element when the list asks for it; every user action goes back through it.
+//
+// The list's selection is the rows' selection: a change the user makes in the list is handed to
+// the outline row by row, and the list is brought back in line with the outline whenever the
+// rows are read again. A tick on a selected row ticks every selected row.
+//
+// The script actions send the input a person would give to the list view's own window
+// procedure (a click on a box or an expander, F2 and keys typed into the in-place editor, a
+// selection change) and answer the text driver's error texts, empty when done.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cell_editor.h"
+#include "outline_images.h"
+#include "tx/abi.h"
+#include "tx_host/gui/control.h"
+#include "visible_rows.h"
+
+namespace tx::host::gui {
+
+class outline_control final : public control {
+ public:
+  // `outline`: a tx_outline_interface_32 pair, valid while the control lives.
+  outline_control(HWND parent, tx_custom_pointer outline, const metrics& m);
+  ~outline_control() override;
+
+  size_request request(const metrics& m) const override;
+  void place(const RECT& area) override;
+  void show(bool shown) override;
+  void refresh(std::uint32_t changes) override;
+  bool on_notify(const NMHDR& header, LRESULT& result) override;
+  void print(std::vector<std::string>& lines, const dialog::vocabulary& words) const override;
+
+  // Script actions: `address` names a row as the text driver's find_row reads it.
+  std::string tick(std::string_view address, bool on);
+  std::string select(std::string_view address, bool on);
+  std::string expand(std::string_view address, bool on);
+  // Types `text` into the row's first editable cell, then presses Enter (or Esc).
+  std::string rename(std::string_view address, std::string_view text, bool enter);
+
+  // The list view.
+  HWND list() const noexcept { return list_; }
+  // How many rows the list shows.
+  std::size_t shown_rows() const noexcept { return rows_.size(); }
+
+ private:
+  // Keeps rebuilding for the end of an action whose calls into the plug-in may tell of new rows.
+  class action_scope;
+
+  static LRESULT CALLBACK list_procedure(HWND list, UINT message, WPARAM wparam, LPARAM lparam,
+                                         UINT_PTR id, DWORD_PTR self);
+  LRESULT on_list_message(UINT message, WPARAM wparam, LPARAM lparam, bool& handled);
+
+  void read_columns();
+  void read_headers();
+  void rebuild();
+  // Makes the list's selection from `from` on what `wanted` (ascending positions) says.
+  void select_in_list(std::size_t from, const std::vector<std::size_t>& wanted);
+  std::vector<std::size_t> list_selection(std::size_t from) const;
+  void set_list_state(std::size_t position, UINT state, UINT mask);
+
+  // What a person's input does.
+  void toggle_expanded(std::size_t position);
+  void toggle_tick(std::size_t position);
+  void open_editor(std::size_t position, std::size_t column);
+  void close_editor(bool keep);
+  void handed_selection(std::size_t first, std::size_t last, bool on);
+
+  // Reading the element for the list.
+  bool has_children(tx_custom_pointer row) const noexcept;
+  bool expanded(tx_custom_pointer row) const noexcept;
+  int expander(tx_custom_pointer row) const noexcept;
+  bool selected(tx_custom_pointer row) const noexcept;
+  bool faulty(tx_custom_pointer row) const noexcept;
+  bool ticked(tx_custom_pointer row) const noexcept;
+  bool tick_enabled(tx_custom_pointer row) const noexcept;
+  bool editable(std::size_t column, tx_custom_pointer row) const noexcept;
+  bool emphasized(std::size_t column, tx_custom_pointer row) const noexcept;
+  std::u16string cell(std::size_t column, tx_custom_pointer row) const;
+  std::optional<std::size_t> first_editable(tx_custom_pointer row) const noexcept;
+
+  void fill_item(LVITEMW& item) const;
+  LRESULT find_typed(const NMLVFINDITEMW& find) const;
+  LRESULT custom_draw(NMLVCUSTOMDRAW& draw) const;
+
+  // The list's position of the row `address` names, or the error text.
+  struct target {
+    std::optional<std::size_t> position;
+    std::string error;
+  };
+  target find(std::string_view address) const;
+  // Scrolls the row into view and answers the centre of its part (an LVIR_* value, or -1 for
+  // the expander).
+  POINT point_at(std::size_t position, int part) const;
+  void click(POINT at, WPARAM keys = 0) const;
+
+  HWND list_ = nullptr;
+  tx_custom_pointer outline_;
+  tx_custom_pointer checks_{};
+  std::vector<tx_custom_pointer> columns_;
+  HFONT font_;
+  HFONT bold_font_;
+  std::unique_ptr<outline_images> images_;
+  visible_rows rows_;
+  std::unique_ptr<cell_editor> editor_;
+  tx_custom_pointer editor_row_{};
+  std::size_t editor_column_ = 0;
+  LPARAM editor_serial_ = 0;
+  UINT close_editor_message_;
+  UINT rebuild_message_;
+  int width_ = 0;
+  // While the list is being brought in line with the rows, its notifications are not handed on.
+  bool syncing_ = false;
+  // Nested actions under way, and whether the plug-in told of new rows during them.
+  int busy_ = 0;
+  bool rows_pending_ = false;
+  bool rebuild_posted_ = false;
+};
+
+}  // namespace tx::host::gui

@@ -1,0 +1,220 @@
+#include "dialog_window.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "tx_host/dialog/toolbar_format.h"
+#include "tx_host/dialog/vocabulary.h"
+
+namespace tx::test {
+namespace {
+
+// The controls of the window being tested, to which it hands its notifications.
+std::vector<host::gui::control*> shown_controls;
+
+LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+  LRESULT result = 0;
+  if (message == WM_NOTIFY) {
+    for (host::gui::control* c : shown_controls) {
+      if (c->on_notify(*reinterpret_cast<const NMHDR*>(lparam), result)) return result;
+    }
+  }
+  if (message == WM_COMMAND) {
+    for (host::gui::control* c : shown_controls) {
+      if (c->on_command(reinterpret_cast<HWND>(lparam), HIWORD(wparam), result)) return result;
+    }
+  }
+  return DefWindowProcW(window, message, wparam, lparam);
+}
+
+constexpr wchar_t kWindowClass[] = L"tx_test_dialog_window";
+
+template <class Table>
+void give_view(tx_custom_pointer element, tx_custom_pointer view) {
+  host::call(element, &Table::set_view, view);
+}
+
+// Hands `view` to the outline, its columns and boxes.
+void view_rows(tx_custom_pointer outline, tx_custom_pointer view) {
+  const host::dialog::outline_reader reader(outline);
+  give_view<tx_outline_interface_32>(outline, view);
+  for (const tx_custom_pointer column : reader.columns()) {
+    give_view<tx_string_outline_column_interface_10>(column, view);
+  }
+  give_view<tx_outline_checks_interface_1>(reader.checks(), view);
+}
+
+// Hands `view` to the toolbar and each tool, whose state hook it is.
+void view_tools(tx_custom_pointer toolbar, tx_custom_pointer view) {
+  give_view<tx_toolbar_interface_6>(toolbar, view);
+  for (const host::dialog::tool_entry& t : host::dialog::tools_of(toolbar)) {
+    give_view<tx_action_tool_interface_0>(t.tool, view);
+  }
+}
+
+constexpr tx_element_view_interface_0 kViewTable{
+    &host::root_slot,
+    [](void* self, std::uint32_t what) noexcept {
+      host::object_of<refreshing_view>(self).changed(what);
+    },
+};
+constexpr host::interface_entry kViewInterfaces[]{{TX_ELEMENT_VIEW_INTERFACE_0, &kViewTable}};
+
+}  // namespace
+
+tx_custom_pointer refreshing_view::pair() noexcept { return {&kViewTable, object_half()}; }
+
+std::span<const host::interface_entry> refreshing_view::interfaces() const noexcept {
+  return kViewInterfaces;
+}
+
+void dialog_window::SetUp() {
+  ASSERT_TRUE(tx_host_project_load(TX_EXAMPLES_DIR "/city.json")) << tx_host_project_error();
+  tx_host_set_lng(0);
+  tx_host_msgs_clear();
+  widget = std::make_unique<project_rename_widget>();
+  widget->open();
+  leaves found;
+  host::dialog::walk(widget->layout(), found, host::dialog::walk_scope::shown);
+  outline = found.outline;
+  toolbar = found.toolbar;
+  ASSERT_TRUE(host::present(outline) && host::present(toolbar));
+
+  INITCOMMONCONTROLSEX common{sizeof(common), ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
+  InitCommonControlsEx(&common);
+  WNDCLASSEXW type{};
+  type.cbSize = sizeof(type);
+  type.lpfnWndProc = &window_procedure;
+  type.hInstance = GetModuleHandleW(nullptr);
+  type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+  type.lpszClassName = kWindowClass;
+  RegisterClassExW(&type);
+  window =
+      CreateWindowExW(0, kWindowClass, L"Переименование элементов проекта", WS_OVERLAPPEDWINDOW, 0,
+                      0, 640, 600, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+  // Wine without an X server has no window station to show windows on.
+  if (window == nullptr) GTEST_SKIP() << "no display: run under an X server (xvfb-run -a)";
+  NONCLIENTMETRICSW system{};
+  system.cbSize = sizeof(system);
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(system), &system, 0);
+  font = CreateFontIndirectW(&system.lfMessageFont);
+  system.lfMessageFont.lfWeight = FW_BOLD;
+  bold = CreateFontIndirectW(&system.lfMessageFont);
+  host::gui::metrics m;
+  m.font = font;
+  m.bold_font = bold;
+  tools = std::make_unique<host::gui::toolbar_control>(window, toolbar, m);
+  rows = std::make_unique<host::gui::outline_control>(window, outline, m);
+  shown_controls = {tools.get(), rows.get()};
+  tools_view = std::make_unique<refreshing_view>(*tools);
+  rows_view = std::make_unique<refreshing_view>(*rows);
+  view_tools(toolbar, tools_view->pair());
+  view_rows(outline, rows_view->pair());
+
+  RECT client{};
+  GetClientRect(window, &client);
+  const int margin = m.dlu_x(7);
+  const int bar = tools->request(m).height;
+  tools->place({margin, margin, client.right - margin, margin + bar});
+  rows->place({margin, margin + bar + m.dlu_y(2), client.right - margin, client.bottom - margin});
+  ShowWindow(window, SW_SHOW);
+  UpdateWindow(window);
+  pump();
+}
+
+void dialog_window::TearDown() {
+  if (host::present(outline)) view_rows(outline, tx_custom_pointer{});
+  if (host::present(toolbar)) view_tools(toolbar, tx_custom_pointer{});
+  shown_controls.clear();
+  rows.reset();
+  tools.reset();
+  if (window != nullptr) DestroyWindow(window);
+  if (font != nullptr) DeleteObject(font);
+  if (bold != nullptr) DeleteObject(bold);
+  widget.reset();
+  pump();
+}
+
+void dialog_window::pump() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+std::vector<std::string> dialog_window::text_rows() const {
+  return host::dialog::render_rows(host::dialog::outline_reader(outline));
+}
+
+std::string dialog_window::text_toolbar() const {
+  return host::dialog::format_toolbar(host::dialog::vocabulary_for(0).tools,
+                                      host::dialog::tool_values_of(toolbar));
+}
+
+std::vector<std::string> dialog_window::window_rows() const {
+  std::vector<std::string> lines;
+  rows->print(lines, host::dialog::vocabulary_for(0));
+  return lines;
+}
+
+std::string dialog_window::window_toolbar() const {
+  std::vector<std::string> lines;
+  tools->print(lines, host::dialog::vocabulary_for(0));
+  return lines.size() == 1 ? lines.front() : std::string();
+}
+
+tx_custom_pointer dialog_window::row(const std::string& address) const {
+  return host::dialog::find_row(host::dialog::outline_reader(outline), address).row;
+}
+
+std::vector<COLORREF> dialog_window::screenshot(const std::string& name, RECT& area) const {
+  pump();
+  UpdateWindow(window);
+  GetClientRect(window, &area);
+  const int width = area.right;
+  const int height = area.bottom;
+  HDC screen = GetDC(window);
+  HDC copy = CreateCompatibleDC(screen);
+  BITMAPINFO info{};
+  info.bmiHeader.biSize = sizeof(info.bmiHeader);
+  info.bmiHeader.biWidth = width;
+  info.bmiHeader.biHeight = -height;
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  info.bmiHeader.biCompression = BI_RGB;
+  void* bits = nullptr;
+  HBITMAP bitmap = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  HGDIOBJ old = SelectObject(copy, bitmap);
+  BitBlt(copy, 0, 0, width, height, screen, 0, 0, SRCCOPY);
+  GdiFlush();
+  std::vector<COLORREF> pixels(static_cast<std::size_t>(width) * height);
+  const auto* source = static_cast<const std::uint32_t*>(bits);
+  for (std::size_t i = 0; i < pixels.size(); ++i) {
+    pixels[i] = RGB((source[i] >> 16) & 0xFF, (source[i] >> 8) & 0xFF, source[i] & 0xFF);
+  }
+  // A 32-bit bottom-up .bmp for a person to look at.
+  const std::filesystem::path folder = std::filesystem::path(TX_TEST_OUTPUT_DIR) / "screenshots";
+  std::filesystem::create_directories(folder);
+  std::ofstream out(folder / (name + ".bmp"), std::ios::binary);
+  BITMAPFILEHEADER file{};
+  BITMAPINFOHEADER header = info.bmiHeader;
+  header.biHeight = height;
+  const std::uint32_t size = static_cast<std::uint32_t>(pixels.size() * 4);
+  file.bfType = 0x4D42;
+  file.bfOffBits = sizeof(file) + sizeof(header);
+  file.bfSize = file.bfOffBits + size;
+  out.write(reinterpret_cast<const char*>(&file), sizeof(file));
+  out.write(reinterpret_cast<const char*>(&header), sizeof(header));
+  for (int y = height - 1; y >= 0; --y) {
+    out.write(reinterpret_cast<const char*>(source + static_cast<std::size_t>(y) * width),
+              static_cast<std::streamsize>(width) * 4);
+  }
+  SelectObject(copy, old);
+  DeleteObject(bitmap);
+  DeleteDC(copy);
+  ReleaseDC(window, screen);
+  return pixels;
+}
+
+}  // namespace tx::test
