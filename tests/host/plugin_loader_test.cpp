@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "tx/services.h"
+#include "tx_host/basic.h"
 
 namespace tx::host {
 namespace {
@@ -131,8 +132,8 @@ TEST(PluginLoader, UnloadDetachesFromEveryServiceStillHeldAndCallsTheUnloadingHo
 }
 
 // The copy, away from the host's libraries, finds txk_basic already loaded by this program (the
-// host). (The caption in either language: txhost.list_russian and list_english.)
-TEST(PluginLoader, PathIsUtf8) {
+// host), which sets its language through it, as txhost does.
+TEST(PluginLoader, PathIsUtf8AndCaptionsFollowTheHostLanguage) {
   const std::filesystem::path folder =
       std::filesystem::temp_directory_path() / std::filesystem::path(u8"tx_host_тест");
   std::filesystem::create_directories(folder);
@@ -146,8 +147,14 @@ TEST(PluginLoader, PathIsUtf8) {
     plugin_loader loader(registry);
     EXPECT_TRUE(loader.load(std::string(utf8.begin(), utf8.end()))) << loader.error_message();
     const std::vector<utility_command> commands = loader.utilities();
-    ASSERT_EQ(commands.size(), 1u);
-    EXPECT_EQ(commands[0].id, u"tx_fake_utility");
+    EXPECT_EQ(commands.size(), 1u);
+    for (const utility_command& command : commands) {
+      EXPECT_EQ(command.id, u"tx_fake_utility");
+      EXPECT_EQ(command.caption(), u"Поддельная утилита");
+      tx_host_set_lng(50000);
+      EXPECT_EQ(command.caption(), u"Fake utility");
+      tx_host_set_lng(0);
+    }
   }
   std::filesystem::remove_all(folder);
 }
