@@ -4,6 +4,7 @@
 
 #include "element/project_rename_widget.h"
 #include "element/tree_outline.h"
+#include "resources/string_visitor.h"
 
 namespace tx::element::detail {
 namespace {
@@ -16,46 +17,41 @@ constexpr std::int32_t column_size = 20;
 
 }  // namespace
 
-name_column::name_column(project_rename_widget& context)
-    : string_outline_column(u"tx_prjrename_tree_name_column", old_name_header, column_size),
-      context_(&context) {}
+name_column::name_column(project_rename_widget& context, shown names)
+    : string_outline_column(names == shown::new_name ? u"tx_prjrename_tree_modified_name_column"
+                                                     : u"tx_prjrename_tree_name_column",
+                            names == shown::new_name ? new_name_header : old_name_header,
+                            column_size),
+      context_(&context),
+      names_(names) {}
 
 bool name_column::text(custom_pointer row, custom_pointer visitor) {
   const prjrename_tree_item* node = node_of(row);
   if (node == nullptr) return false;
   bool given = false;
-  node->get_caption([&](const char16_t* text) { given = visit_text(visitor, text); });
+  const prjrename_sink give = [&](const char16_t* text) { given = visit_text(visitor, text); };
+  if (names_ == shown::new_name) {
+    node->get_new_name(give);
+  } else {
+    node->get_caption(give);
+  }
   return given;
 }
 
-modified_name_column::modified_name_column(project_rename_widget& context)
-    : string_outline_column(u"tx_prjrename_tree_modified_name_column", new_name_header,
-                            column_size),
-      context_(&context) {}
-
-bool modified_name_column::text(custom_pointer row, custom_pointer visitor) {
+bool name_column::editable(custom_pointer row) {
   const prjrename_tree_item* node = node_of(row);
-  if (node == nullptr) return false;
-  bool given = false;
-  node->get_new_name([&](const char16_t* text) { given = visit_text(visitor, text); });
-  return given;
+  return names_ == shown::new_name && node != nullptr && node->has_entity();
 }
 
-bool modified_name_column::editable(custom_pointer row) {
+bool name_column::emphasized(custom_pointer row) {
   const prjrename_tree_item* node = node_of(row);
-  return node != nullptr && node->has_entity();
+  return names_ == shown::new_name && node != nullptr && node->is_changed_last();
 }
 
-bool modified_name_column::emphasized(custom_pointer row) {
-  const prjrename_tree_item* node = node_of(row);
-  return node != nullptr && node->is_changed_last();
-}
-
-void modified_name_column::edit(custom_pointer row, std::u16string_view text) {
-  const prjrename_tree_item* node = node_of(row);
-  if (node == nullptr) return;
+void name_column::edit(custom_pointer row, std::u16string_view text) {
+  if (!editable(row)) return;
   const std::u16string name(text);
-  node->set_new_name(context_->names, name.c_str());
+  node_of(row)->set_new_name(context_->names, name.c_str());
 }
 
 bool check_column::checked(custom_pointer row) {

@@ -1,6 +1,5 @@
 // The columns of the rename dialog's tree: the check boxes, the old names (the host's current
-// captions, read-only) and the new names (editable on every row that stands for an element,
-// emphasised where the latest step changed them). Cells are read from the nodes on demand.
+// captions) and the new names. Cells are read from the nodes on demand.
 #pragma once
 
 #include "toolkit/outline_columns.h"
@@ -11,24 +10,14 @@ class project_rename_widget;
 
 namespace tx::element::detail {
 
+// One text column of the tree. The two differ only in which name a row shows and whether it can
+// be typed over: the old names are read-only, the new names are editable on every row that
+// stands for an element and emphasised where the latest step changed them.
 class name_column final : public toolkit::string_outline_column {
  public:
-  explicit name_column(project_rename_widget& context);
+  enum class shown { old_name, new_name };
 
-  bool text(custom_pointer row, custom_pointer visitor) override;
-  bool editable(custom_pointer) override { return false; }
-  bool emphasized(custom_pointer) override { return false; }
-
- protected:
-  void edit(custom_pointer, std::u16string_view) override {}
-
- private:
-  project_rename_widget* context_;
-};
-
-class modified_name_column final : public toolkit::string_outline_column {
- public:
-  explicit modified_name_column(project_rename_widget& context);
+  name_column(project_rename_widget& context, shown names);
 
   bool text(custom_pointer row, custom_pointer visitor) override;
   bool editable(custom_pointer row) override;
@@ -41,6 +30,7 @@ class modified_name_column final : public toolkit::string_outline_column {
 
  private:
   project_rename_widget* context_;
+  shown names_;
 };
 
 // A tick on a selected row ticks (or unticks) every selected row and redraws; a tick on any

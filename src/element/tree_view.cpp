@@ -8,8 +8,8 @@ prjrename_tree::prjrename_tree(project_rename_widget& context)
     : context_(context),
       toolbar_(context),
       outline_(context),
-      names_(context),
-      new_names_(context),
+      names_(context, detail::name_column::shown::old_name),
+      new_names_(context, detail::name_column::shown::new_name),
       checks_(context) {
   outline_.add_column(names_);
   outline_.add_column(new_names_);

@@ -39,7 +39,7 @@ class prjrename_tree {
   toolbar_type toolbar_;
   detail::tree_outline outline_;
   detail::name_column names_;
-  detail::modified_name_column new_names_;
+  detail::name_column new_names_;
   detail::check_column checks_;
   toolkit::grid_layout<2, 1> layout_;
   events::connection refresh_;

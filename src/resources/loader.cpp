@@ -18,10 +18,6 @@ custom_pointer localizer_for(std::int32_t reference) noexcept {
   return reference > 0 ? localizer() : custom_pointer{};
 }
 
-void visit_text(custom_pointer visitor, const char16_t* text) noexcept {
-  call<tx_string_visitor_interface_0>(visitor, &tx_string_visitor_interface_0::visit, text);
-}
-
 // Keeps the text it is given.
 class text_receiver final : public single_interface<string_visitor_impl> {
  public:

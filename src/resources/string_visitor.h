@@ -1,4 +1,5 @@
-// The string visitor as the plug-in implements it, to receive a text from whoever it asks.
+// The string visitor: as the plug-in implements it, to receive a text from whoever it asks, and
+// the one way the plug-in hands a text to a visitor it is given.
 #pragma once
 
 #include "plugin/interface.h"
@@ -24,5 +25,9 @@ class string_visitor_impl : public interface_impl {
   string_visitor_impl() = default;
   ~string_visitor_impl() = default;
 };
+
+// Hands `text` (NUL-terminated, valid during the call) to `visitor`; an absent visitor or slot is
+// skipped. Answers true: what a text question answers once it has a text to give.
+bool visit_text(custom_pointer visitor, const char16_t* text) noexcept;
 
 }  // namespace tx

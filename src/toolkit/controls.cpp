@@ -1,12 +1,12 @@
 // The control interfaces' tables, and the controls' out-of-line members.
 #include <algorithm>
 
+#include "resources/string_visitor.h"
 #include "toolkit/assisted_input.h"
 #include "toolkit/checkbox.h"
 #include "toolkit/dropdown.h"
 #include "toolkit/label.h"
 #include "toolkit/numeric_input.h"
-#include "tx/visitors.h"
 
 namespace tx {
 
@@ -57,19 +57,12 @@ const assisted_input_impl::table_type* assisted_input_impl::table() noexcept {
 }
 
 namespace toolkit {
-namespace {
 
-void visit_text(custom_pointer visitor, const std::u16string& text) noexcept {
-  call<tx_string_visitor_interface_0>(visitor, &tx_string_visitor_interface_0::visit, text.c_str());
-}
-
-}  // namespace
-
-void assisted_input::text(custom_pointer visitor) { visit_text(visitor, text_); }
+void assisted_input::text(custom_pointer visitor) { visit_text(visitor, text_.c_str()); }
 
 bool assisted_input::history_item(std::int32_t index, custom_pointer visitor) {
   if (index < 0 || static_cast<std::size_t>(index) >= history_.size()) return false;
-  visit_text(visitor, history_[static_cast<std::size_t>(index)]);
+  visit_text(visitor, history_[static_cast<std::size_t>(index)].c_str());
   return true;
 }
 

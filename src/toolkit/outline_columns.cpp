@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "tx/visitors.h"
+#include "resources/string_visitor.h"
 
 namespace tx {
 
@@ -47,11 +47,6 @@ void string_outline_column::set_text(custom_pointer row, const char16_t* text) {
   if (text == nullptr || !editable(row)) return;
   edit(row, text);
   edited();
-}
-
-bool string_outline_column::visit_text(custom_pointer visitor, const char16_t* text) noexcept {
-  call<tx_string_visitor_interface_0>(visitor, &tx_string_visitor_interface_0::visit, text);
-  return true;
 }
 
 }  // namespace toolkit

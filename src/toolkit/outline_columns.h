@@ -94,9 +94,6 @@ class string_outline_column : public detail::generic_element_impl<string_outline
  protected:
   virtual void edit(custom_pointer row, std::u16string_view text) = 0;
 
-  // Hands `text` to a string visitor and answers true: what text() answers for a filled cell.
-  static bool visit_text(custom_pointer visitor, const char16_t* text) noexcept;
-
  private:
   std::u16string id_;
   std::int32_t header_;

@@ -1,6 +1,5 @@
 #include "tree/build.h"
 
-#include <cstring>
 #include <string_view>
 
 #include "tree/host_text.h"
@@ -23,12 +22,11 @@ tx_lr_group* child_at(tx_lr_group* group, std::uint32_t n, std::uint32_t k, bool
 }
 
 void build_lr_group(prjrename_tree_lr_group& node, tx_lr_group* group,
-                    std::vector<prjrename_tree_lr_group*>& groups) {
-  node.clear_children();
-  node.lr_group = group;
-  node.uuid = uuid_of(tx_lr_group_safe_upcast(group));
-  node.expanded = tx_lr_group_get_expanded(group);
-  if (tx_lr_group_is_group(group)) groups.push_back(&node);
+                    std::vector<prjrename_tree_lr_group*>& groups);
+
+// One child node under `node` for each child of `group`, collecting layer groups into `groups`.
+void build_lr_children(prjrename_tree_group& node, tx_lr_group* group,
+                       std::vector<prjrename_tree_lr_group*>& groups) {
   const bool invert = tx_options_get_invert_layers();
   const std::uint32_t n = tx_lr_group_get_count_child(group);
   node.children.reserve(n);
@@ -39,38 +37,54 @@ void build_lr_group(prjrename_tree_lr_group& node, tx_lr_group* group,
   }
 }
 
+void build_lr_group(prjrename_tree_lr_group& node, tx_lr_group* group,
+                    std::vector<prjrename_tree_lr_group*>& groups) {
+  node.clear_children();
+  node.lr_group = group;
+  node.uuid = uuid_of(tx_lr_group_safe_upcast(group));
+  node.expanded = tx_lr_group_get_expanded(group);
+  if (tx_lr_group_is_group(group)) groups.push_back(&node);
+  build_lr_children(node, group, groups);
+}
+
 void build_scene(prjrename_tree_scn& node, tx_scn* scene) {
   node.clear_children();
   node.groups.clear();
   node.scn = scene;
   node.uuid = uuid_of(tx_scn_safe_upcast(scene));
-  tx_lr_group* root = tx_scn_get_lr_group_ptr(scene);
-  if (root == nullptr) return;
-  const bool invert = tx_options_get_invert_layers();
-  const std::uint32_t n = tx_lr_group_get_count_child(root);
-  node.children.reserve(n);
-  for (std::uint32_t k = 0; k < n; ++k) {
-    auto child = std::make_unique<prjrename_tree_lr_group>();
-    build_lr_group(*child, child_at(root, n, k, invert), node.groups);
-    node.add(std::move(child));
+  if (tx_lr_group* root = tx_scn_get_lr_group_ptr(scene); root != nullptr) {
+    build_lr_children(node, root, node.groups);
   }
 }
 
-std::unique_ptr<prjrename_tree_scns2d> build_scns2d(tx_scns_2d* collection) {
-  auto node = std::make_unique<prjrename_tree_scns2d>();
-  node->caption = host_caption(&tx_entities_get_wcaption, tx_scns_2d_safe_upcast(collection));
-  const std::uint32_t size = tx_scns_2d_get_size(collection);
+// Adds a node for a scene collection (2D or 3D, told by the host functions that read it) with
+// one child per scene; an absent or empty collection has no row.
+template <class Node, class Collection>
+void add_collection(prjrename_tree_group& root, Collection* collection,
+                    std::uint32_t (*size_of)(Collection*),
+                    tx_scn* (*scene_at)(Collection*, std::uint32_t),
+                    tx_entities* (*upcast)(Collection*)) {
+  const std::uint32_t size = collection != nullptr ? size_of(collection) : 0;
+  if (size == 0) return;
+  auto node = std::make_unique<Node>();
+  node->caption = host_caption(&tx_entities_get_wcaption, upcast(collection));
   node->children.reserve(size);
   for (std::uint32_t i = 0; i < size; ++i) {
     auto scene = std::make_unique<prjrename_tree_scn>();
-    build_scene(*scene, tx_scns_2d_get(collection, i));
+    build_scene(*scene, scene_at(collection, i));
     node->add(std::move(scene));
   }
-  return node;
+  root.add(std::move(node));
 }
 
-bool has_scenes(tx_scns_2d* collection) {
-  return collection != nullptr && tx_scns_2d_get_size(collection) > 0;
+void add_scenes(prjrename_tree_group& root, tx_scns_2d* collection) {
+  add_collection<prjrename_tree_scns2d>(root, collection, &tx_scns_2d_get_size, &tx_scns_2d_get,
+                                        &tx_scns_2d_safe_upcast);
+}
+
+void add_scenes(prjrename_tree_group& root, tx_scns_3d* collection) {
+  add_collection<prjrename_tree_scns3d>(root, collection, &tx_scns_3d_get_size, &tx_scns_3d_get,
+                                        &tx_scns_3d_safe_upcast);
 }
 
 // Whether the collection's meta id is exactly the shown plug-in collection's, all 39 bytes.
@@ -82,29 +96,14 @@ bool is_shown_plugin_collection(tx_scns_2d* collection) {
 void build_project(prjrename_tree_prj& root, tx_prj* project) {
   root.clear_children();
   if (project == nullptr) return;
-  if (tx_scns_2d* scenes = tx_prj_get_scns_2d_ptr(project); has_scenes(scenes)) {
-    root.add(build_scns2d(scenes));
-  }
-  if (tx_scns_3d* scenes = tx_prj_get_scns_3d_ptr(project);
-      scenes != nullptr && tx_scns_3d_get_size(scenes) > 0) {
-    auto node = std::make_unique<prjrename_tree_scns3d>();
-    node->caption = host_caption(&tx_entities_get_wcaption, tx_scns_3d_safe_upcast(scenes));
-    const std::uint32_t size = tx_scns_3d_get_size(scenes);
-    for (std::uint32_t i = 0; i < size; ++i) {
-      auto scene = std::make_unique<prjrename_tree_scn>();
-      build_scene(*scene, tx_scns_3d_get(scenes, i));
-      node->add(std::move(scene));
-    }
-    root.add(std::move(node));
-  }
-  if (tx_scns_2d* layouts = tx_prj_get_layouts_data_ptr(project); has_scenes(layouts)) {
-    root.add(build_scns2d(layouts));
-  }
+  add_scenes(root, tx_prj_get_scns_2d_ptr(project));
+  add_scenes(root, tx_prj_get_scns_3d_ptr(project));
+  add_scenes(root, tx_prj_get_layouts_data_ptr(project));
   const std::int32_t count = tx_prj_get_plugin_scns_2d_count(project);
   for (std::int32_t i = 0; i < count; ++i) {
     tx_scns_2d* collection = tx_prj_get_plugin_scns_2d_ptr(project, i);
     if (collection == nullptr || !is_shown_plugin_collection(collection)) continue;
-    if (has_scenes(collection)) root.add(build_scns2d(collection));
+    add_scenes(root, collection);
     break;
   }
   root.rebuild_visible();

@@ -26,28 +26,16 @@ TEST(TxhostArguments, AcceptsEveryFormWithItsOptionsInAnyOrder) {
   };
   const row rows[] = {
       {{"--list", "p.dll"}, {.plugin = "p.dll"}},
-      {{"--list", "p.dll", "--lang", "ru"}, {.plugin = "p.dll"}},
       {{"--list", "p.dll", "--lang", "en"}, {.plugin = "p.dll", .language_offset = 50000}},
-      {{"--lang", "en", "--list", "/a b/плагин.so"},
-       {.plugin = "/a b/плагин.so", .language_offset = 50000}},
       {{"--help"}, {.help = true}},
       {{"--list", "p.dll", "--help"}, {.help = true, .plugin = "p.dll"}},
       {{"--project", "город.json"}, {.project = "город.json"}},
-      {{"--project", "c.json", "--lang", "en"}, {.project = "c.json", .language_offset = 50000}},
       {{"--project", "c.json", "--list", "p.dll"}, {.plugin = "p.dll", .project = "c.json"}},
       {{"c.json", "--plugin", "p.dll"}, {.run_project = "c.json", .run_plugin = "p.dll"}},
-      {{"c.json", "--plugin", "p.dll", "--lang", "30000"},
-       {.language_offset = 30000, .run_project = "c.json", .run_plugin = "p.dll"}},
       {{"c.json", "--plugin", "p.dll", "--lang", "2147483647"},
        {.language_offset = 2147483647, .run_project = "c.json", .run_plugin = "p.dll"}},
       {{"c.json", "--no-localizer", "--plugin", "p.dll", "--hostile"},
        {.run_project = "c.json", .run_plugin = "p.dll", .no_localizer = true, .hostile = true}},
-      {{"--plugin", "p.dll", "город.json"}, {.run_project = "город.json", .run_plugin = "p.dll"}},
-      {{"c.json", "--plugin", "p.dll", "--script", "run.txt", "--lang", "en"},
-       {.language_offset = 50000,
-        .run_project = "c.json",
-        .run_plugin = "p.dll",
-        .script = "run.txt"}},
       {{"--script", "a b.txt", "--plugin", "p.so", "/x/c.json"},
        {.run_project = "/x/c.json", .run_plugin = "p.so", .script = "a b.txt"}},
 #ifdef _WIN32
@@ -75,43 +63,34 @@ TEST(TxhostArguments, RejectsWhatMakesNoSense) {
   };
   const std::string run_only = " goes with PROJECT --plugin PLUGIN";
   const row rows[] = {
-      {{}, "nothing to do"},
       {{"--lang", "en"}, "--list PLUGIN or --project FILE is required"},
       {{"--project"}, "--project needs a FILE"},
-      {{"--project", ""}, "--project needs a FILE"},
       {{"--project", "--list", "p.dll"}, "--project needs a FILE"},
       {{"--project", "a", "--project", "b"}, "--project given twice"},
-      {{"--list"}, "--list needs a PLUGIN"},
-      {{"--list", ""}, "--list needs a PLUGIN"},
       {{"--list", "--lang", "en"}, "--list needs a PLUGIN"},
+      {{"--list", ""}, "--list needs a PLUGIN"},
       {{"--list", "p.dll", "--lang"}, "--lang needs ru, en or an offset"},
-      {{"--list", "p.dll", "--lang", "de"}, "unknown language 'de' (ru, en or an offset)"},
       {{"--list", "p.dll", "--lang", "EN"}, "unknown language 'EN' (ru, en or an offset)"},
-      {{"--list", "a", "--list", "b"}, "--list given twice"},
       {{"--list", "a", "--lang", "ru", "--lang", "en"}, "--lang given twice"},
       {{"--list", "a", "extra"}, "unexpected argument 'extra'"},
-      {{"-h"}, "unexpected argument '-h'"},
       {{"--help", "--verbose"}, "unexpected argument '--verbose'"},
-      {{"c.json"}, "unexpected argument 'c.json'"},
       {{"--plugin", "p.dll"}, "--plugin PLUGIN needs a PROJECT to run on"},
       {{"c.json", "d.json", "--plugin", "p.dll"}, "unexpected argument 'd.json'"},
       {{"c.json", "--plugin"}, "--plugin needs a PLUGIN"},
       {{"c.json", "--plugin", "p.dll", "--script"}, "--script needs a FILE"},
-      {{"c.json", "--plugin", "p.dll", "--script", ""}, "--script needs a FILE"},
-      {{"c.json", "--plugin", "a", "--plugin", "b"}, "--plugin given twice"},
       {{"c.json", "--plugin", "p.dll", "--list", "p.dll"},
        "PROJECT --plugin PLUGIN goes without --list and --project"},
       {{"c.json", "--plugin", "p.dll", "--project", "c.json"},
        "PROJECT --plugin PLUGIN goes without --list and --project"},
       {{"--list", "p.dll", "--script", "run.txt"}, "--script FILE" + run_only},
-      {{"--script", "run.txt"}, "--script FILE" + run_only},
       {{"c.json", "--plugin", "p.dll", "--lang", "-1"},
        "unknown language '-1' (ru, en or an offset)"},
       {{"c.json", "--plugin", "p.dll", "--lang", "2147483648"},
        "unknown language '2147483648' (ru, en or an offset)"},
       {{"c.json", "--plugin", "p.dll", "--lang", "3e4"},
        "unknown language '3e4' (ru, en or an offset)"},
-      {{"c.json", "--plugin", "p.dll", "--hostile", "--hostile"}, "--hostile given twice"},
+      {{"c.json", "--plugin", "p.dll", "--no-localizer", "--no-localizer"},
+       "--no-localizer given twice"},
       {{"--list", "p.dll", "--no-localizer"}, "--no-localizer" + run_only},
       {{"--list", "p.dll", "--gui"}, "--gui" + run_only},
       {{"c.json", "--plugin", "p.dll", "--gui", "--gui"}, "--gui given twice"},
@@ -129,9 +108,8 @@ TEST(TxhostArguments, RejectsWhatMakesNoSense) {
   }
 }
 
-TEST(TxhostArguments, TheUsageKeepsItsFirstLineAndTellsTheRunForm) {
+TEST(TxhostArguments, TheUsageTellsTheRunFormAndItsOptions) {
   const std::string usage = txhost_usage();
-  EXPECT_TRUE(usage.starts_with("Usage: txhost --list PLUGIN"));
   EXPECT_NE(usage.find("txhost PROJECT --plugin PLUGIN [--script FILE] [--lang ru|en|N]"),
             std::string::npos);
   for (const char* option : {"--no-localizer", "--hostile"}) {

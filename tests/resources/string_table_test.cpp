@@ -1,5 +1,6 @@
 // The plug-in's string table read back through the loader, letter for letter and length for
-// length, in both languages.
+// length, in both languages: the strings that no printed dialog of the end-to-end cases shows
+// whole in both (those compare every caption they print), trailing blanks included.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -26,45 +27,21 @@ struct table_row {
 const std::u16string separators = u" .,!()@#\u2116~`;$%:^&?*-_+='<>\t/\\{}[]|";
 
 const table_row table[] = {
-    {10, u"Переименование элементов проекта", u"Rename Project Elements"},
-    {50, u"Старое имя", u"Old name"},
-    {51, u"Новое имя", u"New name"},
-    {100, u"Отменить", u"Undo"},
-    {101, u"Повторить", u"Redo"},
     {102, u"Сбросить изменения", u"Drop changes"},
-    {103, u"Развернуть", u"Expand"},
-    {104, u"Свернуть", u"Collapse"},
-    {125, u"Преобразование", u"Transformation"},
-    {126, u"Тип", u"Type"},
-    {127, u"Выполнить", u"Execute"},
     {128, separators, separators},
-    {129, u"Не заданы новые имена", u"No new names have been set"},
-    {130, u"Не заданы условия переименования", u"Renaming conditions are not specified"},
     {131, u"Не выбран ни один элемент для переименования", u"No items are selected for renaming"},
     {132, u"Задано пустое имя для переименования. Проверьте дерево элементов",
      u"An empty name was specified for renaming. Check the element tree"},
-    {150, u"Найти и заменить", u"Find and Replace"},
-    {151, u"Найти", u"Find"},
-    {152, u"Заменить на", u"Replace"},
     {153, u"Учитывать регистр ", u"Sensitive to case"},
     {154, u"Слово целиком ", u"Only whole words"},
-    {155, u"Все", u"All"},
-    {156, u"Первое", u"First"},
-    {157, u"Последнее", u"Last"},
-    {158, u"Все, кроме первого", u"All except first"},
-    {159, u"Все, кроме последнего", u"All except last"},
-    {160, u"Заменять", u"Replace"},
-    {175, u"Изменить регистр", u"Change case"},
     {176, u"Регистр", u"Case"},
     {177, u"нижний регистр", u"lover case"},
     {178, u"ВЕРХНИЙ РЕГИСТР", u"UPPER CASE"},
     {179, u"Первая буква в верхнем регистре", u"First letter in uppercase"},
     {180, u"Без изменений", u"Without changes"},
-    {200, u"Добавить", u"Add"},
     {201, u"Добавить", u"Add"},
     {202, u"В начало", u"To the begining"},
     {203, u"В конец", u"In the end"},
-    {225, u"Удалить", u"Remove"},
     {226, u"Удалить", u"Remove"},
     {227, u"Все до символов", u"Everything to"},
     {228, u"Все после символов", u"Everything after"},
@@ -78,9 +55,6 @@ const table_row table[] = {
     {236, u"Учитывать регистр ", u"Sensitive to case"},
     {237, u"Слово целиком", u"Whole words"},
     {238, u"Слово целиком ", u"Whole words"},
-    {10012, u"Выделить все", u"Select All"},
-    {10014, u"Снять выделение", u"Clear Selection"},
-    {10015, u"Обратить выделение", u"Invert Selection"},
 };
 
 TEST(StringTable, EveryStringInBothLanguages) {

@@ -52,14 +52,12 @@ struct history_model {
     if (step.empty()) return;
     push(std::move(step));
   }
+  // A typed name is a step of its own even when it equals the name before.
   void set_name(std::uint64_t uuid, const std::u16string& text) {
-    if (const auto entry = entries.find(uuid); entry != entries.end()) {
-      push({{uuid, entry->second.second, text, false}});
-      entry->second.second = text;
-    } else if (const auto caption = captions.find(uuid); caption != captions.end()) {
-      push({{uuid, caption->second, text, true}});
-      entries[uuid] = {caption->second, text};
-    }
+    apply({uuid}, [&](const std::u16string&, std::u16string& result) {
+      result = text;
+      return true;
+    });
   }
   void push(model_step step) {
     undo.push_back(std::move(step));
@@ -82,11 +80,7 @@ struct history_model {
   void redo_one() {
     if (redo.empty()) return;
     for (const model_change& c : redo.back()) {
-      if (const auto entry = entries.find(c.uuid); entry != entries.end()) {
-        entry->second.second = c.after;
-      } else {
-        entries[c.uuid] = {c.before, c.after};
-      }
+      entries.try_emplace(c.uuid, c.before, c.after).first->second.second = c.after;
     }
     undo.push_back(std::move(redo.back()));
     redo.pop_back();

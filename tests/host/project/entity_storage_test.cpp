@@ -1,8 +1,6 @@
 // The entity storage: every live scene, group and layer found by its uuid, and nothing else.
 #include <gtest/gtest.h>
 
-#include <unordered_set>
-
 #include "project_files.h"
 #include "tx/host/txk_lr.h"
 #include "tx/host/txk_prj.h"
@@ -73,30 +71,6 @@ TEST(EntityStorage, ARemovedSceneTakesItsLayersAndIsNotSaved) {
   EXPECT_EQ(find(0xe01), nullptr);
   EXPECT_EQ(tx_scns_2d_get_size(tx_prj_get_plugin_scns_2d_ptr(tx_prj_get_instance(), 1)), 0u);
   EXPECT_NE(find(0xd01), nullptr);
-}
-
-TEST(UuidHashAndEqual, EqualExactlyWhenTheValuesAreAndHashedApartOtherwise) {
-  const struct {
-    std::uint64_t a;
-    std::uint64_t b;
-    bool equal;
-  } rows[] = {
-      {0, 0, true},          {0xa01, 0xa01, true}, {0xffffffffffffffff, 0xffffffffffffffff, true},
-      {0xa01, 0xa02, false}, {0, 1, false},        {0x8000000000000000, 0x0000000000000001, false},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(tx_uuid_equal(tx_uuid{row.a}, tx_uuid{row.b}), row.equal) << row.a << " " << row.b;
-    EXPECT_EQ(tx_uuid_equal(tx_uuid{row.b}, tx_uuid{row.a}), row.equal);
-    if (row.equal) {
-      EXPECT_EQ(tx_uuid_hash(tx_uuid{row.a}), tx_uuid_hash(tx_uuid{row.b}));
-    }
-  }
-  std::unordered_set<size_t> hashes;
-  for (std::uint64_t value = 0; value < 1000; ++value) {
-    hashes.insert(tx_uuid_hash(tx_uuid{value}));
-    hashes.insert(tx_uuid_hash(tx_uuid{value << 52}));
-  }
-  EXPECT_EQ(hashes.size(), 1999u);  // 0 << 52 is 0 again
 }
 
 }  // namespace

@@ -93,32 +93,19 @@ TEST(ProjectFileRoundTrip, UnchangedExamplesAreSavedByteForByteOverTheOldFile) {
             1);
 }
 
+// (Saved names compared byte for byte are the end-to-end cases' and the project-file fuzzer's;
+// here, a path that is not ASCII and captions that need escaping.)
 TEST(ProjectFileRoundTrip, ChangedCaptionsAreWhatIsReadBack) {
   ASSERT_TRUE(tx_host_project_load(example("small.json").c_str()));
-  const std::pair<std::uint64_t, const char16_t*> changes[] = {{0xa01, u"Карта города"},
-                                                               {0xa02, u"Дороги \"главные\""},
-                                                               {0xa03, u"Шоссе 𝔸 ✓"},
-                                                               {0xe02, u""}};
+  const std::pair<std::uint64_t, const char16_t*> changes[] = {
+      {0xa02, u"Дороги \"главные\""}, {0xa03, u"Шоссе 𝔸 ✓"}, {0xe02, u""}};
   for (const auto& [uuid, text] : changes) tx_entity_set_wcaption(find(uuid), text);
-  // A collection has no uuid: it is found through the open project.
-  const auto layouts = [] {
-    return tx_entities_safe_upcast(
-        tx_scns_2d_safe_upcast(tx_prj_get_layouts_data_ptr(tx_prj_get_instance())));
-  };
-  tx_entity_set_wcaption(layouts(), u"Макеты");
-
-  // The paths are UTF-8.
   const std::filesystem::path folder = scratch_folder() / u8"Город Н";
   std::filesystem::create_directory(folder);
-  const std::string first = utf8(folder / u8"проект «центр».json");
-  const std::string second = utf8(folder / "second.json");
-  ASSERT_TRUE(tx_host_project_save(first.c_str())) << tx_host_project_error();
-  ASSERT_TRUE(tx_host_project_load(first.c_str())) << tx_host_project_error();
+  const std::string path = utf8(folder / u8"проект «центр».json");
+  ASSERT_TRUE(tx_host_project_save(path.c_str())) << tx_host_project_error();
+  ASSERT_TRUE(tx_host_project_load(path.c_str())) << tx_host_project_error();
   for (const auto& [uuid, text] : changes) EXPECT_EQ(caption(find(uuid)), text) << uuid;
-  EXPECT_EQ(caption(layouts()), u"Макеты");
-  EXPECT_EQ(caption(find(0xa04)), u"Тропы");
-  ASSERT_TRUE(tx_host_project_save(second.c_str()));
-  EXPECT_EQ(read_file(second), read_file(first));
 }
 
 TEST(ProjectFileRoundTrip, AFailedSaveLeavesWhatWasThereAndNoFile) {
