@@ -128,7 +128,8 @@ void outline_control::read_headers() {
 }
 
 size_request outline_control::request(const metrics& m) const {
-  return {m.dlu_x(240), m.dlu_y(120), true, true};
+  // Room for two columns of long Russian names and a screenful of rows.
+  return {m.dlu_x(320), m.dlu_y(190), true, true};
 }
 
 void outline_control::place(const RECT& area) {
