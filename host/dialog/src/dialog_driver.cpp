@@ -62,51 +62,19 @@ class dialog_parts final : public element_listener {
 
 }  // namespace
 
-command_outcome dialog_driver::run(const command& c) const {
-  switch (c.what) {
-    case verb::print:
-      return {std::nullopt, render(), {}};
-    case verb::help:
-      return {std::nullopt, command_summary(), {}};
-    case verb::op:
-      return choose_operation(c.arguments.at(0));
-    case verb::set:
-      return set_field(c.arguments.at(0), c.arguments.at(1));
-    case verb::tick:
-    case verb::untick:
-    case verb::select:
-    case verb::deselect:
-    case verb::expand:
-    case verb::collapse:
-    case verb::rename:
-    case verb::escape:
-      return row_command(c);
-    case verb::click:
-      return click(c.arguments.at(0));
-    case verb::accept:
-    case verb::close:
-    case verb::press:
-    case verb::closebox:
-      return press(c);
-    case verb::tools: {
-      const dialog_parts parts(docker_);
-      std::string listing;
-      for (const tx_custom_pointer toolbar : parts.toolbars) {
-        listing += describe_tools(toolbar);
-      }
-      return {std::nullopt, std::move(listing), {}};
-    }
-    case verb::screenshot:
-      return done();  // text has no picture to save
-    case verb::remove:
-      return failure("this host deletes no project elements");
-    case verb::reopen:
-      return failure("reopen runs the utility again once its dialog has closed");
-  }
-  return failure("unknown command");
+command_outcome dialog_driver::run(const command& c) { return dispatch(*this, c); }
+
+std::string dialog_driver::tools() {
+  const dialog_parts parts(docker_);
+  std::string listing;
+  for (const tx_custom_pointer toolbar : parts.toolbars) listing += describe_tools(toolbar);
+  return listing;
 }
 
-std::string dialog_driver::render() const {
+// Text has no picture to save: the same script runs in both hosts.
+command_outcome dialog_driver::screenshot(const std::string&) { return done(); }
+
+std::string dialog_driver::render() {
   return render_dialog(docker_, buttons_, vocabulary_for(language_));
 }
 
@@ -114,7 +82,7 @@ bool dialog_driver::press_close_box() const noexcept {
   return call(buttons_, &tx_button_box_interface_2::press, -1);
 }
 
-command_outcome dialog_driver::choose_operation(const std::string& operation) const {
+command_outcome dialog_driver::choose_operation(const std::string& operation) {
   const dialog_parts parts(docker_);
   if (!parts.selector) return failure("the dialog has no operation selector");
   if (!element_enabled(*parts.selector)) return failure("the operation selector is disabled");
@@ -124,7 +92,7 @@ command_outcome dialog_driver::choose_operation(const std::string& operation) co
   return done();
 }
 
-command_outcome dialog_driver::set_field(const std::string& field, const std::string& value) const {
+command_outcome dialog_driver::set_field(const std::string& field, const std::string& value) {
   const dialog_parts parts(docker_);
   const element* target = nullptr;
   if (const std::optional<std::size_t> n = position(field)) {
@@ -169,18 +137,18 @@ command_outcome dialog_driver::set_field(const std::string& field, const std::st
   return done();
 }
 
-command_outcome dialog_driver::row_command(const command& c) const {
+command_outcome dialog_driver::row_command(const command& c) {
   const dialog_parts parts(docker_);
   if (!present(parts.outline)) return failure("the dialog has no outline");
   return failure(act_on_row(parts.outline, c.what, c.arguments.at(0),
                             c.arguments.size() > 1 ? c.arguments[1] : std::string()));
 }
 
-command_outcome dialog_driver::click(const std::string& tool) const {
+command_outcome dialog_driver::click(const std::string& tool) {
   return failure(click_tool(dialog_parts(docker_).toolbars, tool));
 }
 
-command_outcome dialog_driver::press(const command& c) const {
+command_outcome dialog_driver::press(const command& c) {
   if (c.what == verb::closebox) {
     if (press_close_box()) return {-1, {}, {}};
     return done();

@@ -153,7 +153,7 @@ std::int32_t modal_dialog_view::run_loop(tx_custom_pointer docker, tx_custom_poi
 }
 
 void modal_dialog_view::provoke(tx_custom_pointer docker, tx_custom_pointer buttons) {
-  const dialog_driver driver(docker, buttons, language_);
+  dialog_driver driver(docker, buttons, language_);
   const std::string before = driver.render();
   std::string report = describe(run_hostile_pass(docker, buttons));
   if (driver.render() != before) report += "hostile: the dialog changed\n";

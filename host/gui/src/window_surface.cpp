@@ -6,11 +6,11 @@
 #include "field_controls.h"
 #include "message_presenter.h"
 #include "native.h"
+#include "outline_control.h"
 #include "screenshot.h"
+#include "toolbar_control.h"
 #include "tx_host/dialog/script_values.h"
 #include "tx_host/dialog/vocabulary.h"
-#include "outline_control.h"
-#include "toolbar_control.h"
 
 namespace tx::host::gui {
 namespace {
@@ -24,7 +24,7 @@ command_outcome failure(std::string error) { return {std::nullopt, {}, std::move
 command_outcome done() { return {}; }
 
 // A script's commands sent to the window's controls as a person's input would be.
-class window_surface final : public dialog::dialog_surface {
+class window_surface final : public dialog::dialog_surface, private dialog::dialog_actions {
  public:
   window_surface(tx_custom_pointer docker, tx_custom_pointer buttons, std::int32_t language,
                  window_options options)
@@ -36,7 +36,7 @@ class window_surface final : public dialog::dialog_surface {
 
   command_outcome run(const command& c) override {
     window_.pump();
-    command_outcome outcome = act(c);
+    command_outcome outcome = dispatch(*this, c);
     window_.pump();
     if (!outcome.closed_with && window_.closed_with()) outcome.closed_with = window_.closed_with();
     return outcome;
@@ -61,58 +61,23 @@ class window_surface final : public dialog::dialog_surface {
   }
 
  private:
-  command_outcome act(const command& c);
-  command_outcome choose_operation(const std::string& operation);
-  command_outcome set_field(const std::string& name, const std::string& value);
-  command_outcome row_command(const command& c);
-  command_outcome click(const std::string& tool);
-  command_outcome press(const command& c);
-  command_outcome screenshot(const std::string& file);
+  command_outcome choose_operation(const std::string& operation) override;
+  command_outcome set_field(const std::string& name, const std::string& value) override;
+  command_outcome row_command(const command& c) override;
+  command_outcome click(const std::string& tool) override;
+  command_outcome press(const command& c) override;
+  std::string tools() override;
+  command_outcome screenshot(const std::string& file) override;
 
   window_options options_;
   dialog_window window_;
   message_presenter presenter_;
 };
 
-command_outcome window_surface::act(const command& c) {
-  switch (c.what) {
-    case verb::print:
-      return {std::nullopt, window_.render(), {}};
-    case verb::help:
-      return {std::nullopt, dialog::command_summary(), {}};
-    case verb::op:
-      return choose_operation(c.arguments.at(0));
-    case verb::set:
-      return set_field(c.arguments.at(0), c.arguments.at(1));
-    case verb::tick:
-    case verb::untick:
-    case verb::select:
-    case verb::deselect:
-    case verb::expand:
-    case verb::collapse:
-    case verb::rename:
-    case verb::escape:
-      return row_command(c);
-    case verb::click:
-      return click(c.arguments.at(0));
-    case verb::accept:
-    case verb::close:
-    case verb::press:
-    case verb::closebox:
-      return press(c);
-    case verb::tools: {
-      std::string listing;
-      for (const toolbar_control* toolbar : window_.toolbars()) listing += toolbar->describe();
-      return {std::nullopt, std::move(listing), {}};
-    }
-    case verb::screenshot:
-      return screenshot(c.arguments.at(0));
-    case verb::remove:
-      return failure("this host deletes no project elements");
-    case verb::reopen:
-      return failure("reopen runs the utility again once its dialog has closed");
-  }
-  return failure("unknown command");
+std::string window_surface::tools() {
+  std::string listing;
+  for (const toolbar_control* toolbar : window_.toolbars()) listing += toolbar->describe();
+  return listing;
 }
 
 command_outcome window_surface::choose_operation(const std::string& operation) {

@@ -11,39 +11,33 @@
 #include <vector>
 
 #include "tx/abi.h"
+#include "tx_host/dialog/dialog_actions.h"
 #include "tx_host/dialog/script.h"
 #include "tx_host/dialog/vocabulary.h"
 
 namespace tx::host::dialog {
 
-struct command_outcome {
-  // Set when the command closed the dialog: the button's index, or -1 for the close box.
-  std::optional<std::int32_t> closed_with;
-  // What the command printed (print, help).
-  std::string output;
-  // Why the command could not be done; empty when it was.
-  std::string error;
-};
-
-class dialog_driver {
+class dialog_driver final : public dialog_actions {
  public:
   // `docker` and `buttons`: the pairs the dialog is shown with, borrowed while it is shown.
   dialog_driver(tx_custom_pointer docker, tx_custom_pointer buttons,
                 std::int32_t language_offset) noexcept
       : docker_(docker), buttons_(buttons), language_(language_offset) {}
 
-  command_outcome run(const command& c) const;
+  command_outcome run(const command& c);
   // The dialog as text, as `print` prints it.
-  std::string render() const;
+  std::string render() override;
   // Asks the button box whether its close box may close the dialog, as the frame does.
   bool press_close_box() const noexcept;
 
  private:
-  command_outcome choose_operation(const std::string& operation) const;
-  command_outcome set_field(const std::string& field, const std::string& value) const;
-  command_outcome row_command(const command& c) const;
-  command_outcome click(const std::string& tool) const;
-  command_outcome press(const command& c) const;
+  command_outcome choose_operation(const std::string& operation) override;
+  command_outcome set_field(const std::string& field, const std::string& value) override;
+  command_outcome row_command(const command& c) override;
+  command_outcome click(const std::string& tool) override;
+  command_outcome press(const command& c) override;
+  std::string tools() override;
+  command_outcome screenshot(const std::string& file) override;
 
   tx_custom_pointer docker_;
   tx_custom_pointer buttons_;
