@@ -232,21 +232,6 @@ std::string field(std::string field, bool enabled, const vocabulary& words) {
   return field;
 }
 
-std::string toolbar(const std::vector<tool_text>& tools, const vocabulary& words) {
-  std::string out(words.tools);
-  out += ":";
-  int group = -1;
-  for (const tool_text& t : tools) {
-    if (!t.visible) continue;
-    out += group < 0 ? " " : t.group != group ? " ‖ " : " | ";
-    group = t.group;
-    std::string shown = t.caption;
-    if (t.hint && *t.hint != t.caption) shown += " [" + *t.hint + "]";
-    out += t.enabled ? shown : "(" + shown + ")";
-  }
-  return out;
-}
-
 std::string opening(const std::optional<std::string>& caption) {
   return caption ? "┌ " + *caption : "┌";
 }

@@ -56,15 +56,6 @@ std::string input(std::string_view caption, std::string_view value,
 std::string field(std::string field, bool enabled, const vocabulary& words);
 
 // One tool of a toolbar as the toolbar line shows it.
-struct tool_text {
-  int group = 0;
-  std::string caption;  // the id when the tool has no caption
-  std::optional<std::string> hint;
-  bool enabled = true;
-  bool visible = true;
-};
-// "Tools: A | B ‖ (C)": `|` between tools, `‖` between groups, a disabled tool in parentheses.
-std::string toolbar(const std::vector<tool_text>& tools, const vocabulary& words);
 // "┌ Caption", or "┌" without one: the frame's or a group box's first line.
 std::string opening(const std::optional<std::string>& caption);
 // "[ Apply ] [ Close ]": the shown buttons' captions in order; one without a caption is shown
