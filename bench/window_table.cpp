@@ -25,9 +25,13 @@ std::string goal_text(const window_step& step) {
 
 // 1000000 → «1,000,000».
 std::string grouped(double value) {
-  std::string digits = std::to_string(static_cast<long long>(value));
-  for (std::size_t at = digits.size(); at > 3; at -= 3) digits.insert(at - 3, ",");
-  return digits;
+  const std::string digits = std::to_string(static_cast<long long>(value));
+  std::string text;
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    if (i > 0 && (digits.size() - i) % 3 == 0 && digits[i - 1] != '-') text += ',';
+    text += digits[i];
+  }
+  return text;
 }
 
 // What the goal is judged on: the whole step, or the host's own time (the whole step where the
