@@ -2,9 +2,12 @@
 // how long until the window is usable, and how long each step a person takes keeps them
 // waiting — scrolling a page, expanding and collapsing a row, ticking a row, the redraw after
 // Execute — with the plug-in's own share told apart where it can be. Each step runs a few times
-// and the median is shown. Not a test: nothing is asserted.
+// and the median is shown. Not a test: nothing is asserted. With --results=FILE it also writes
+// what it measured, one «key<TAB>value» line each (the keys of window_steps.h), for the
+// performance document; `./x bench` runs it so.
 //
-//   xvfb-run -a build/windows/wine-run.sh build/windows/bin/tx_gui_outline_bench.exe [ELEMENTS]
+//   build/windows/wine-run.sh build/windows/bin/tx_gui_outline_bench.exe [ELEMENTS]
+//       [--results=FILE]
 #include <windows.h>
 // After windows.h, which it needs.
 #include <commctrl.h>
@@ -13,13 +16,16 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "element/project_rename_widget.h"
 #include "outline_control.h"
+#include "scale_results.h"
 #include "toolbar_control.h"
 #include "tree_project_file.h"
 #include "tx/toolkit/controls.h"
@@ -33,6 +39,7 @@
 #include "tx_host/project.h"
 #include "tx_host/services/interface_object.h"
 #include "tx_host/services/utf.h"
+#include "window_steps.h"
 
 namespace tx::bench {
 namespace {
@@ -127,9 +134,25 @@ std::size_t row_questions(tx_custom_pointer outline, tx_custom_pointer parent) {
   return answers;
 }
 
-void line(const char* what, double ms) { std::printf("  %-58s %9.1f ms\n", what, ms); }
+// Prints one figure and answers it.
+double line(const char* what, double ms) {
+  std::printf("  %-58s %9.1f ms\n", what, ms);
+  return ms;
+}
 
-int run(std::size_t elements) {
+// Keeps one step's figures for the results: the whole step, the plug-in's share when it is told
+// apart, how many runs the figure is the median of.
+void record(scale_results& results, std::string_view step, int runs, double whole,
+            std::optional<double> plugin = std::nullopt) {
+  results.set(window_key(step, "ms"), whole);
+  results.set(window_key(step, "runs"), runs);
+  if (plugin) {
+    results.set(window_key(step, "plugin_ms"), *plugin);
+    results.set(window_key(step, "host_ms"), whole - *plugin);
+  }
+}
+
+int run(std::size_t elements, scale_results& results) {
   const auto file = scale_project_file(TX_SCALE_PROJECTS, elements);
   if (!file || !tx_host_project_load(file->string().c_str())) {
     std::fprintf(stderr, "tx_gui_outline_bench: cannot open the project of %zu elements\n",
@@ -138,9 +161,12 @@ int run(std::size_t elements) {
   }
   tx_host_set_lng(50000);
   std::printf("The window's outline over %zu elements (median of the runs)\n", elements);
+  constexpr int runs = 5;
+  results.set("window.elements", static_cast<double>(elements));
+  results.set("window.runs", runs);
   auto widget = std::make_unique<project_rename_widget>();
-  line("plug-in: the dialog's tree built from the project",
-       milliseconds_of([&] { widget->open(); }));
+  const double opened = milliseconds_of([&] { widget->open(); });
+  line("plug-in: the dialog's tree built from the project", opened);
   parts found;
   host::dialog::walk(widget->layout(), found, host::dialog::walk_scope::shown);
 
@@ -163,11 +189,13 @@ int run(std::size_t elements) {
 
   std::unique_ptr<host::gui::outline_control> rows;
   std::unique_ptr<refreshing_view> view;
-  line("window usable: the outline made, placed and drawn", milliseconds_of([&] {
-         rows = std::make_unique<host::gui::outline_control>(window, found.outline, m);
-         rows->place({10, 40, 790, 660});
-         pump(window);
-       }));
+  const double shown = milliseconds_of([&] {
+    rows = std::make_unique<host::gui::outline_control>(window, found.outline, m);
+    rows->place({10, 40, 790, 660});
+    pump(window);
+  });
+  line("window usable: the outline made, placed and drawn", shown);
+  record(results, "usable", 1, opened + shown, opened);
   controls = {rows.get()};
   view = std::make_unique<refreshing_view>(*rows);
   const host::dialog::outline_reader reader(found.outline);
@@ -194,9 +222,9 @@ int run(std::size_t elements) {
     SendMessageW(list, LVM_ENSUREVISIBLE, position, FALSE);
     pump(window);
   };
-  constexpr int runs = 5;
-  line("expand every row (the Expand tool: plug-in, rebuild, drawing)",
-       milliseconds_of([&] { click("Expand"); }));
+  const double expanded_all = milliseconds_of([&] { click("Expand"); });
+  line("expand every row (the Expand tool: plug-in, rebuild, drawing)", expanded_all);
+  record(results, "expand_all", 1, expanded_all);
   std::printf("  rows shown: %zu (flat index %zu bytes)\n", rows->shown_rows(),
               rows->shown_rows() * sizeof(host::gui::visible_row));
   line("  of which the host: rebuilding the rows and drawing them",
@@ -210,47 +238,56 @@ int run(std::size_t elements) {
        median_ms(
            runs, [] {}, [&] { row_questions(found.outline, tx_custom_pointer{}); }));
   scroll_to(0);
-  line("scroll one page down", median_ms(
-                                   runs, [] {},
-                                   [&] {
-                                     SendMessageW(list, WM_VSCROLL, SB_PAGEDOWN, 0);
-                                     pump(window);
-                                   }));
-  line("scroll to the middle of the list",
-       median_ms(
-           runs, [&] { scroll_to(0); }, [&] { scroll_to(rows->shown_rows() / 2); }));
+  const double page =
+      line("scroll one page down", median_ms(
+                                       runs, [] {},
+                                       [&] {
+                                         SendMessageW(list, WM_VSCROLL, SB_PAGEDOWN, 0);
+                                         pump(window);
+                                       }));
+  record(results, "scroll_page", runs, page);
+  const double middle =
+      line("scroll to the middle of the list",
+           median_ms(
+               runs, [&] { scroll_to(0); }, [&] { scroll_to(rows->shown_rows() / 2); }));
   scroll_to(0);
   const std::string group = "2D scenes / map layers 1 / layer group 1";
-  line("collapse a row near the top (all rows below it move up)", median_ms(
-                                                                      runs,
-                                                                      [&] {
-                                                                        rows->expand(group, true);
-                                                                        pump(window);
-                                                                      },
-                                                                      [&] {
-                                                                        rows->expand(group, false);
-                                                                        pump(window);
-                                                                      }));
-  line("expand it again (its 2,550 rows spliced in)", median_ms(
-                                                          runs,
-                                                          [&] {
-                                                            rows->expand(group, false);
-                                                            pump(window);
-                                                          },
-                                                          [&] {
-                                                            rows->expand(group, true);
-                                                            pump(window);
-                                                          }));
+  record(results, "scroll_middle", runs, middle);
+  const double collapsed = line("collapse a row near the top (all rows below it move up)",
+                                median_ms(
+                                    runs,
+                                    [&] {
+                                      rows->expand(group, true);
+                                      pump(window);
+                                    },
+                                    [&] {
+                                      rows->expand(group, false);
+                                      pump(window);
+                                    }));
+  record(results, "collapse", runs, collapsed);
+  const double expanded =
+      line("expand it again (its 2,550 rows spliced in)", median_ms(
+                                                              runs,
+                                                              [&] {
+                                                                rows->expand(group, false);
+                                                                pump(window);
+                                                              },
+                                                              [&] {
+                                                                rows->expand(group, true);
+                                                                pump(window);
+                                                              }));
   const std::string layer = "2D scenes / map layers 1 / layer group 1 / layer group 1.1 / {1}";
-  line("tick a row, then untick it", median_ms(
-                                         runs, [] {},
-                                         [&] {
-                                           rows->tick(layer, true);
-                                           pump(window);
-                                           rows->tick(layer, false);
-                                           pump(window);
-                                         }) /
-                                         2);
+  record(results, "expand", runs, expanded);
+  const double ticked = line("tick a row, then untick it (each)", median_ms(
+                                                                      runs, [] {},
+                                                                      [&] {
+                                                                        rows->tick(layer, true);
+                                                                        pump(window);
+                                                                        rows->tick(layer, false);
+                                                                        pump(window);
+                                                                      }) /
+                                                                      2);
+  record(results, "tick", runs, ticked);
   line("find a row by its path (part of every script action above)",
        median_ms(
            runs, [] {}, [&] { rows->select(layer, false); }));
@@ -261,18 +298,24 @@ int run(std::size_t elements) {
   const std::u16string replace = u"слой";
   host::call(found.inputs.at(0), &tx_assisted_input_interface_3::set_text, find.c_str());
   host::call(found.inputs.at(1), &tx_assisted_input_interface_3::set_text, replace.c_str());
-  line("Execute over every element (plug-in, rebuild, drawing)",
-       milliseconds_of([&] { click("Execute"); }));
-  line("  of which the host: the redraw after Execute", median_ms(
-                                                            runs, [] {},
-                                                            [&] {
-                                                              rows->refresh(TX_CHANGED_ROWS);
-                                                              pump(window);
-                                                            }));
-  line("    of which the plug-in answering the row questions",
-       median_ms(
-           runs, [] {}, [&] { row_questions(found.outline, tx_custom_pointer{}); }));
-  line("undo (the plug-in's step back, then the redraw)", milliseconds_of([&] { click("Undo"); }));
+  record(results, "execute", 1,
+         line("Execute over every element (plug-in, rebuild, drawing)",
+              milliseconds_of([&] { click("Execute"); })));
+  const double redraw =
+      line("  of which the host: the redraw after Execute", median_ms(
+                                                                runs, [] {},
+                                                                [&] {
+                                                                  rows->refresh(TX_CHANGED_ROWS);
+                                                                  pump(window);
+                                                                }));
+  const double answering =
+      line("    of which the plug-in answering the row questions",
+           median_ms(
+               runs, [] {}, [&] { row_questions(found.outline, tx_custom_pointer{}); }));
+  record(results, "redraw", runs, redraw, answering);
+  record(results, "undo", 1,
+         line("undo (the plug-in's step back, then the redraw)",
+              milliseconds_of([&] { click("Undo"); })));
 
   for (const auto& t : tool_list) {
     host::call(t.tool, &tx_action_tool_interface_0::set_view, tx_custom_pointer{});
@@ -292,6 +335,27 @@ int run(std::size_t elements) {
 }  // namespace tx::bench
 
 int main(int argc, char** argv) {
-  const std::size_t elements = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1000000;
-  return tx::bench::run(elements);
+  std::size_t elements = 1000000;
+  std::string results_path;
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view argument = argv[i];
+    if (argument.starts_with("--results=")) {
+      results_path = argument.substr(std::string_view("--results=").size());
+    } else if (char* end = nullptr;
+               (elements = std::strtoull(argv[i], &end, 10)) == 0 || *end != '\0') {
+      std::fprintf(stderr, "usage: tx_gui_outline_bench [ELEMENTS] [--results=FILE]\n");
+      return 2;
+    }
+  }
+  tx::bench::scale_results results;
+  const int status = tx::bench::run(elements, results);
+  if (status != 0 || results_path.empty()) return status;
+  std::ofstream out(results_path, std::ios::binary);
+  results.write(out);
+  out.close();
+  if (!out) {
+    std::fprintf(stderr, "tx_gui_outline_bench: cannot write %s\n", results_path.c_str());
+    return 1;
+  }
+  return 0;
 }

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "scale_tables.h"
+#include "window_table.h"
 
 namespace tx::bench {
 namespace {
@@ -24,6 +25,15 @@ std::string measured_line(const document_inputs& inputs) {
   return text + "\n";
 }
 
+std::string window_section(const document_inputs& inputs) {
+  if (inputs.window == nullptr) return "Not measured: " + inputs.window_missing + "\n";
+  std::string text = window_table(*inputs.window);
+  if (!inputs.window_load.empty()) {
+    text += "\nLoad average (1, 5, 15 min) before and after the run: " + inputs.window_load + ".\n";
+  }
+  return text;
+}
+
 // The generated part of `placeholder`, or nothing when the line is no placeholder.
 std::optional<std::string> generated(std::string_view placeholder, const document_inputs& inputs) {
   const std::array<measured_build, 2> builds{
@@ -34,6 +44,7 @@ std::optional<std::string> generated(std::string_view placeholder, const documen
   if (placeholder == "@RENAME@") return rename_table(builds, inputs.sed_names_per_second);
   if (placeholder == "@RUNTIME@") return runtime_table(builds);
   if (placeholder == "@GOALS@") return goals_table(builds, inputs.sed_names_per_second);
+  if (placeholder == "@WINDOW@") return window_section(inputs);
   if (placeholder == "@MISSED@") {
     const std::string missed = missed_goals(builds, inputs.sed_names_per_second);
     return missed.empty() ? std::string("Every goal is met in both builds.\n") : missed;

@@ -8,6 +8,7 @@
 //   @RUNTIME@         what the runtime underneath costs in both builds
 //   @GOALS@           every goal and whether each build meets it
 //   @MISSED@          the goals missed, one line each (or that none is)
+//   @WINDOW@          the window's steps over a large project, Windows build under Wine
 #pragma once
 
 #include <optional>
@@ -24,10 +25,13 @@ struct document_inputs {
   std::string native_missing;
   std::string windows_missing;
   std::optional<double> sed_names_per_second;
-  std::string date;          // when the runs were made
-  std::string machine;       // processors and model
-  std::string native_load;   // load average around the native run
-  std::string windows_load;  // load average around the Windows run
+  std::string date;                       // when the runs were made
+  std::string machine;                    // processors and model
+  std::string native_load;                // load average around the native run
+  std::string windows_load;               // load average around the Windows run
+  const scale_results* window = nullptr;  // null: not measured, `window_missing` says why
+  std::string window_missing;
+  std::string window_load;  // load average around the window benchmark
 };
 
 // The document: `template_text` with every placeholder line replaced. A placeholder the

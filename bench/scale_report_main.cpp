@@ -13,7 +13,9 @@
 //   tx_scale_report --document=OUT --template=FILE [--native=FILE] [--windows=FILE]
 //                   [--native-missing=WHY] [--windows-missing=WHY] [--sed-names-per-second=N]
 //                   [--date=TEXT] [--machine=TEXT] [--native-load=TEXT] [--windows-load=TEXT]
-//       writes the performance document from its template and the results of both builds
+//                   [--window=FILE] [--window-missing=WHY] [--window-load=TEXT]
+//       writes the performance document from its template and the results of both builds and
+//       of the window benchmark (tx_gui_outline_bench)
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -136,8 +138,11 @@ int write_document(const std::map<std::string, std::string>& options) {
   const std::optional<scale_results> native = results_of(options, "native", inputs.native_missing);
   const std::optional<scale_results> windows =
       results_of(options, "windows", inputs.windows_missing);
+  inputs.window_missing = option(options, "window-missing");
+  const std::optional<scale_results> window = results_of(options, "window", inputs.window_missing);
   inputs.native = native ? &*native : nullptr;
   inputs.windows = windows ? &*windows : nullptr;
+  inputs.window = window ? &*window : nullptr;
   bool bad = false;
   inputs.sed_names_per_second = positive_number(options, "sed-names-per-second", bad);
   if (bad) return 2;
@@ -145,6 +150,7 @@ int write_document(const std::map<std::string, std::string>& options) {
   inputs.machine = option(options, "machine");
   inputs.native_load = option(options, "native-load");
   inputs.windows_load = option(options, "windows-load");
+  inputs.window_load = option(options, "window-load");
   const std::string out = option(options, "document");
   if (!write_file(out, compose_performance_document(template_text, inputs))) {
     std::fprintf(stderr, "cannot write %s\n", out.c_str());
@@ -281,7 +287,8 @@ int main(int argc, char** argv) {
       "template",       "native",          "windows",
       "native-missing", "windows-missing", "sed-names-per-second",
       "date",           "machine",         "native-load",
-      "windows-load"};
+      "windows-load",   "window",          "window-missing",
+      "window-load"};
   for (const auto& [name, value] : options) {
     if (!known.contains(name)) {
       std::fprintf(stderr, "unknown option --%s\n", name.c_str());
