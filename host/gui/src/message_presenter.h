@@ -11,6 +11,9 @@
 
 namespace tx::host::gui {
 
+// A commit shorter than this shows no progress window.
+inline constexpr ULONGLONG progress_delay_ms = 400;
+
 class message_presenter {
  public:
   // Shows reports over `dialog` from now until destroyed.
@@ -25,6 +28,8 @@ class message_presenter {
   void progress_ended();
 
  private:
+  void show_progress_window();
+
   HWND dialog_;
   std::int32_t language_;
   bool dismiss_;
