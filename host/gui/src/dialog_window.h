@@ -17,6 +17,7 @@
 #include "tx_host/dialog/element_views.h"
 #include "tx_host/dialog/elements.h"
 #include "tx_host/gui/control.h"
+#include "window_layout.h"
 
 namespace tx::host::gui {
 
@@ -24,19 +25,6 @@ class field_control;
 class dropdown_control;
 class outline_control;
 class toolbar_control;
-
-// One element of the dialog as the window shows it.
-struct window_node {
-  dialog::element element;
-  // A grid's cells or a group box's and a stack's content.
-  std::vector<std::unique_ptr<window_node>> children;
-  // Where this node sits in its parent grid.
-  int row = 0, column = 0, row_span = 1, column_span = 1;
-  std::unique_ptr<control> leaf;  // a field, label, outline, toolbar
-  HWND frame = nullptr;           // a group box's frame
-  bool shown = true;
-  ~window_node();
-};
 
 class dialog_window {
  public:
@@ -90,8 +78,6 @@ class dialog_window {
   void align_captions();
   void layout();
   void fit();
-  size_request request(window_node& node) const;
-  void place(window_node& node, const RECT& area);
   void show_tree(window_node& node, bool shown);
   void press(std::int32_t index);
   void refresh_pending();

@@ -1,0 +1,40 @@
+// The window's layout: the dialog's elements as a tree of nodes (a grid's cells, a group box's
+// or a stack's content, a native control at each leaf), sized and placed in dialog units from the
+// controls' requests and the rows, columns, spans, minimums and stretch flags the plug-in sets on
+// its grids. A grid's columns (rows) are as wide (high) as their widest (highest) cell; spare room
+// goes to the lines that stretch and hold content that grows, else to those whose content grows,
+// so the outline takes what the window gains when it is resized.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <vector>
+
+#include "tx_host/dialog/elements.h"
+#include "tx_host/gui/control.h"
+
+namespace tx::host::gui {
+
+// The gap between controls, in dialog units.
+inline constexpr int layout_gap = 4;
+
+// One element of the dialog as the window shows it.
+struct window_node {
+  dialog::element element;
+  // A grid's cells or a group box's and a stack's content.
+  std::vector<std::unique_ptr<window_node>> children;
+  // Where this node sits in its parent grid.
+  int row = 0, column = 0, row_span = 1, column_span = 1;
+  std::unique_ptr<control> leaf;  // a field, label, outline, toolbar
+  HWND frame = nullptr;           // a group box's frame
+  bool shown = true;
+  ~window_node();
+};
+
+// The smallest comfortable size of `node` and whether it takes extra room.
+size_request request(const window_node& node, const metrics& m);
+// Moves `node`'s windows into `area` (client coordinates of the dialog).
+void place(window_node& node, const RECT& area, const metrics& m);
+
+}  // namespace tx::host::gui
