@@ -25,6 +25,7 @@
 
 #include "element/project_rename_widget.h"
 #include "outline_control.h"
+#include "refreshing_view.h"
 #include "scale_results.h"
 #include "toolbar_control.h"
 #include "tree_project_file.h"
@@ -44,6 +45,8 @@
 namespace tx::bench {
 namespace {
 
+using host::gui::refreshing_view;
+
 using clock_type = std::chrono::steady_clock;
 
 double milliseconds_of(const std::function<void()>& step) {
@@ -62,30 +65,6 @@ double median_ms(int runs, const std::function<void()>& prepare,
   }
   std::sort(times.begin(), times.end());
   return times[times.size() / 2];
-}
-
-// Hands what an element tells to one control at once, as the dialog window's views do.
-class refreshing_view final : public host::interface_object {
- public:
-  explicit refreshing_view(host::gui::control& target) : target_(target) {}
-  tx_custom_pointer pair() noexcept;
-  void changed(std::uint32_t what) { target_.refresh(what); }
-
- private:
-  std::span<const host::interface_entry> interfaces() const noexcept override;
-  host::gui::control& target_;
-};
-
-constexpr tx_element_view_interface_0 kViewTable{
-    &host::root_slot,
-    [](void* self, std::uint32_t what) noexcept {
-      host::object_of<refreshing_view>(self).changed(what);
-    },
-};
-constexpr host::interface_entry kViewInterfaces[]{{TX_ELEMENT_VIEW_INTERFACE_0, &kViewTable}};
-tx_custom_pointer refreshing_view::pair() noexcept { return {&kViewTable, object_half()}; }
-std::span<const host::interface_entry> refreshing_view::interfaces() const noexcept {
-  return kViewInterfaces;
 }
 
 class parts final : public host::dialog::element_listener {
@@ -198,18 +177,10 @@ int run(std::size_t elements, scale_results& results) {
   record(results, "usable", 1, opened + shown, opened);
   controls = {rows.get()};
   view = std::make_unique<refreshing_view>(*rows);
-  const host::dialog::outline_reader reader(found.outline);
-  host::call(found.outline, &tx_outline_interface_32::set_view, view->pair());
-  host::call(reader.checks(), &tx_outline_checks_interface_1::set_view, view->pair());
-  for (const tx_custom_pointer c : reader.columns()) {
-    host::call(c, &tx_string_outline_column_interface_10::set_view, view->pair());
-  }
+  host::gui::view_outline(found.outline, view->pair());
   host::gui::toolbar_control tools(window, found.toolbar, m);
   refreshing_view tools_view(tools);
-  const std::vector<host::dialog::tool_entry> tool_list = host::dialog::tools_of(found.toolbar);
-  for (const auto& t : tool_list) {
-    host::call(t.tool, &tx_action_tool_interface_0::set_view, tools_view.pair());
-  }
+  host::gui::view_toolbar(found.toolbar, tools_view.pair());
   const auto click = [&](const char* tool) {
     const std::string error = tools.click(tool);
     if (!error.empty()) std::fprintf(stderr, "tx_gui_outline_bench: %s\n", error.c_str());
@@ -317,14 +288,8 @@ int run(std::size_t elements, scale_results& results) {
          line("undo (the plug-in's step back, then the redraw)",
               milliseconds_of([&] { click("Undo"); })));
 
-  for (const auto& t : tool_list) {
-    host::call(t.tool, &tx_action_tool_interface_0::set_view, tx_custom_pointer{});
-  }
-  host::call(found.outline, &tx_outline_interface_32::set_view, tx_custom_pointer{});
-  host::call(reader.checks(), &tx_outline_checks_interface_1::set_view, tx_custom_pointer{});
-  for (const tx_custom_pointer c : reader.columns()) {
-    host::call(c, &tx_string_outline_column_interface_10::set_view, tx_custom_pointer{});
-  }
+  host::gui::view_toolbar(found.toolbar, tx_custom_pointer{});
+  host::gui::view_outline(found.outline, tx_custom_pointer{});
   controls.clear();
   rows.reset();
   DestroyWindow(window);

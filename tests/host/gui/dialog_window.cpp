@@ -29,44 +29,7 @@ LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM wparam, LPAR
 
 constexpr wchar_t kWindowClass[] = L"tx_test_dialog_window";
 
-template <class Table>
-void give_view(tx_custom_pointer element, tx_custom_pointer view) {
-  host::call(element, &Table::set_view, view);
-}
-
-// Hands `view` to the outline, its columns and boxes.
-void view_rows(tx_custom_pointer outline, tx_custom_pointer view) {
-  const host::dialog::outline_reader reader(outline);
-  give_view<tx_outline_interface_32>(outline, view);
-  for (const tx_custom_pointer column : reader.columns()) {
-    give_view<tx_string_outline_column_interface_10>(column, view);
-  }
-  give_view<tx_outline_checks_interface_1>(reader.checks(), view);
-}
-
-// Hands `view` to the toolbar and each tool, whose state hook it is.
-void view_tools(tx_custom_pointer toolbar, tx_custom_pointer view) {
-  give_view<tx_toolbar_interface_6>(toolbar, view);
-  for (const host::dialog::tool_entry& t : host::dialog::tools_of(toolbar)) {
-    give_view<tx_action_tool_interface_0>(t.tool, view);
-  }
-}
-
-constexpr tx_element_view_interface_0 kViewTable{
-    &host::root_slot,
-    [](void* self, std::uint32_t what) noexcept {
-      host::object_of<refreshing_view>(self).changed(what);
-    },
-};
-constexpr host::interface_entry kViewInterfaces[]{{TX_ELEMENT_VIEW_INTERFACE_0, &kViewTable}};
-
 }  // namespace
-
-tx_custom_pointer refreshing_view::pair() noexcept { return {&kViewTable, object_half()}; }
-
-std::span<const host::interface_entry> refreshing_view::interfaces() const noexcept {
-  return kViewInterfaces;
-}
 
 void dialog_window::SetUp() {
   ASSERT_TRUE(tx_host_project_load(TX_EXAMPLES_DIR "/city.json")) << tx_host_project_error();
@@ -108,8 +71,8 @@ void dialog_window::SetUp() {
   shown_controls = {tools.get(), rows.get()};
   tools_view = std::make_unique<refreshing_view>(*tools);
   rows_view = std::make_unique<refreshing_view>(*rows);
-  view_tools(toolbar, tools_view->pair());
-  view_rows(outline, rows_view->pair());
+  host::gui::view_toolbar(toolbar, tools_view->pair());
+  host::gui::view_outline(outline, rows_view->pair());
 
   RECT client{};
   GetClientRect(window, &client);
@@ -123,8 +86,8 @@ void dialog_window::SetUp() {
 }
 
 void dialog_window::TearDown() {
-  if (host::present(outline)) view_rows(outline, tx_custom_pointer{});
-  if (host::present(toolbar)) view_tools(toolbar, tx_custom_pointer{});
+  if (host::present(outline)) host::gui::view_outline(outline, tx_custom_pointer{});
+  if (host::present(toolbar)) host::gui::view_toolbar(toolbar, tx_custom_pointer{});
   shown_controls.clear();
   rows.reset();
   tools.reset();

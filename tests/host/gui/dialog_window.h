@@ -15,6 +15,7 @@
 
 #include "element/project_rename_widget.h"
 #include "outline_control.h"
+#include "refreshing_view.h"
 #include "toolbar_control.h"
 #include "tx/toolkit/outline.h"
 #include "tx/toolkit/toolbar.h"
@@ -28,18 +29,7 @@
 
 namespace tx::test {
 
-// A host view handing what its elements tell to one control, as the window's views do.
-class refreshing_view final : public host::interface_object {
- public:
-  explicit refreshing_view(host::gui::control& target) : target_(target) {}
-  tx_custom_pointer pair() noexcept;
-  void changed(std::uint32_t what) { target_.refresh(what); }
-
- private:
-  std::span<const host::interface_entry> interfaces() const noexcept override;
-
-  host::gui::control& target_;
-};
+using host::gui::refreshing_view;
 
 // The dialog's outline and toolbar, found as the window finds them.
 class leaves final : public host::dialog::element_listener {
