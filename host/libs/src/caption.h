@@ -9,7 +9,7 @@ namespace tx::host {
 
 inline void write_caption(const tx_entity* entity, tx_string_adp* adapter) {
   if (entity == nullptr) return;
-  tx_host_string_adp_assign(adapter, entity->caption.c_str(), entity->caption.size());
+  tx_host_string_adp_assign(adapter, entity->caption.data(), entity->caption.size());
 }
 
 }  // namespace tx::host

@@ -4,12 +4,12 @@
 #include "caption.h"
 
 uint32_t tx_lr_group_get_count_child(tx_lr_group* group) {
-  return group != nullptr ? static_cast<uint32_t>(group->children.size()) : 0;
+  return group != nullptr ? static_cast<uint32_t>(group->children().size()) : 0;
 }
 
 tx_lr_group* tx_lr_group_get_child_by_index(tx_lr_group* group, uint32_t index) {
-  if (group == nullptr || index >= group->children.size()) return nullptr;
-  return group->children[index].get();
+  if (group == nullptr || index >= group->children().size()) return nullptr;
+  return group->children()[index];
 }
 
 bool tx_lr_group_is_group(tx_lr_group* group) { return group != nullptr && group->is_group; }

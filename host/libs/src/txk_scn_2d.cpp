@@ -10,7 +10,7 @@ uint32_t tx_scns_2d_get_size(tx_scns_2d* collection) {
 
 tx_scn* tx_scns_2d_get(tx_scns_2d* collection, uint32_t index) {
   if (collection == nullptr || index >= collection->scenes.size()) return nullptr;
-  return collection->scenes[index].get();
+  return collection->scenes[index];
 }
 
 const char* tx_scns_2d_get_meta_id(tx_scns_2d* collection) {
@@ -22,7 +22,7 @@ tx_entities* tx_scns_2d_safe_upcast(tx_scns_2d* collection) { return collection;
 tx_entities* tx_scn_safe_upcast(tx_scn* scene) { return scene; }
 
 tx_lr_group* tx_scn_get_lr_group_ptr(tx_scn* scene) {
-  return scene != nullptr ? scene->layers.get() : nullptr;
+  return scene != nullptr ? scene->layers : nullptr;
 }
 
 void tx_scn_get_wcaption(tx_scn* scene, tx_string_adp* adapter) {

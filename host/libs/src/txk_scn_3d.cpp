@@ -10,7 +10,7 @@ uint32_t tx_scns_3d_get_size(tx_scns_3d* collection) {
 
 tx_scn* tx_scns_3d_get(tx_scns_3d* collection, uint32_t index) {
   if (collection == nullptr || index >= collection->scenes.size()) return nullptr;
-  return collection->scenes[index].get();
+  return collection->scenes[index];
 }
 
 tx_entities* tx_scns_3d_safe_upcast(tx_scns_3d* collection) { return collection; }

@@ -1,35 +1,49 @@
 #include "tx_host/project/entity_storage.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace tx::host {
 
-std::size_t entity_storage::home(std::uint64_t uuid) const noexcept {
+std::uint32_t entity_storage::hash(std::uint64_t uuid) noexcept {
   // The finaliser of splitmix64, so that neighbouring uuids land far apart.
   std::uint64_t x = uuid;
   x = (x ^ (x >> 30)) * 0xbf58476d1ce4e5b9u;
   x = (x ^ (x >> 27)) * 0x94d049bb133111ebu;
-  return static_cast<std::size_t>(x ^ (x >> 31)) & (slots_.size() - 1);
+  return static_cast<std::uint32_t>(x ^ (x >> 31));
 }
 
-void entity_storage::index(tx_prj& project) {
-  std::vector<tx_entity*> elements;
-  for_each_element(project, [&elements](tx_entity& entity) {
-    if (entity.uuid.opaque != 0) elements.push_back(&entity);
-  });
-  std::vector<slot> table(std::bit_ceil(std::max<std::size_t>(elements.size() * 2, 16)));
-  // Nothing below fails.
-  elements_.swap(elements);
-  slots_.swap(table);
-  next_guess_ = 0;
+std::size_t entity_storage::slot_of(std::uint64_t uuid, std::uint32_t hashed) const noexcept {
   const std::size_t mask = slots_.size() - 1;
-  for (std::size_t position = 0; position < elements_.size(); ++position) {
-    const std::uint64_t uuid = elements_[position]->uuid.opaque;
-    std::size_t i = home(uuid);
-    while (slots_[i].uuid != 0) i = (i + 1) & mask;
-    slots_[i] = {uuid, position};
+  std::size_t i = hashed & mask;
+  while (slots_[i].position != slot::free &&
+         (slots_[i].hash != hashed || elements_[slots_[i].position]->uuid.opaque != uuid)) {
+    i = (i + 1) & mask;
   }
+  return i;
+}
+
+void entity_storage::grow() {
+  std::vector<slot> table(std::max<std::size_t>(16, slots_.size() * 2));
+  // Nothing below fails.
+  slots_.swap(table);
+  const std::size_t mask = slots_.size() - 1;
+  for (const slot& moved : table) {
+    if (moved.position == slot::free) continue;
+    std::size_t i = moved.hash & mask;
+    while (slots_[i].position != slot::free) i = (i + 1) & mask;
+    slots_[i] = moved;
+  }
+}
+
+std::optional<std::size_t> entity_storage::add(tx_entity& entity) {
+  if (2 * (live_ + 1) > slots_.size()) grow();
+  const std::uint32_t hashed = hash(entity.uuid.opaque);
+  const std::size_t i = slot_of(entity.uuid.opaque, hashed);
+  if (slots_[i].position != slot::free) return slots_[i].position;
+  elements_.push_back(&entity);
+  slots_[i] = {static_cast<std::uint32_t>(elements_.size() - 1), hashed};
+  ++live_;
+  return std::nullopt;
 }
 
 tx_entity* entity_storage::find(tx_uuid uuid) const noexcept {
@@ -41,29 +55,24 @@ tx_entity* entity_storage::find(tx_uuid uuid) const noexcept {
       return guess;
     }
   }
-  const std::size_t mask = slots_.size() - 1;
-  for (std::size_t i = home(uuid.opaque);; i = (i + 1) & mask) {
-    if (slots_[i].uuid == 0) return nullptr;
-    if (slots_[i].uuid == uuid.opaque) {
-      next_guess_ = slots_[i].position + 1;
-      return elements_[slots_[i].position];
-    }
-  }
+  const slot& found = slots_[slot_of(uuid.opaque, hash(uuid.opaque))];
+  if (found.position == slot::free) return nullptr;
+  next_guess_ = found.position + std::size_t{1};
+  return elements_[found.position];
 }
 
 void entity_storage::erase(std::uint64_t uuid) noexcept {
   if (uuid == 0 || slots_.empty()) return;
   const std::size_t mask = slots_.size() - 1;
-  std::size_t hole = home(uuid);
-  while (slots_[hole].uuid != uuid) {
-    if (slots_[hole].uuid == 0) return;
-    hole = (hole + 1) & mask;
-  }
+  std::size_t hole = slot_of(uuid, hash(uuid));
+  if (slots_[hole].position == slot::free) return;
   elements_[slots_[hole].position] = nullptr;
+  --live_;
   // Backward shift: each later slot of the run that may not sit before its home moves into the
   // hole, so no lookup ever stops early at it.
-  for (std::size_t next = (hole + 1) & mask; slots_[next].uuid != 0; next = (next + 1) & mask) {
-    const std::size_t wanted = home(slots_[next].uuid);
+  for (std::size_t next = (hole + 1) & mask; slots_[next].position != slot::free;
+       next = (next + 1) & mask) {
+    const std::size_t wanted = slots_[next].hash & mask;
     const bool stays = hole <= next ? hole < wanted && wanted <= next  // no wrap in between
                                     : hole < wanted || wanted <= next;
     if (stays) continue;
@@ -86,6 +95,7 @@ void entity_storage::forget(tx_lr_group& group) noexcept {
 void entity_storage::clear() noexcept {
   elements_.clear();
   slots_.clear();
+  live_ = 0;
   next_guess_ = 0;
 }
 

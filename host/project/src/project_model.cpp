@@ -9,33 +9,29 @@
 namespace tx::host {
 namespace {
 
-// Takes the node with `uuid` out of `list`, or answers null.
-template <typename Node>
-std::unique_ptr<Node> take(std::vector<std::unique_ptr<Node>>& list, tx_uuid uuid) {
-  const auto found = std::find_if(list.begin(), list.end(), [uuid](const auto& node) {
-    return node->uuid.opaque == uuid.opaque;
+// Unlinks the scene with `uuid` from `scenes`, or answers null.
+tx_scn* take_scene(std::vector<tx_scn*>& scenes, tx_uuid uuid) {
+  const auto found = std::find_if(scenes.begin(), scenes.end(), [uuid](const tx_scn* scene) {
+    return scene->uuid.opaque == uuid.opaque;
   });
-  if (found == list.end()) return nullptr;
-  std::unique_ptr<Node> node = std::move(*found);
-  list.erase(found);
-  return node;
+  if (found == scenes.end()) return nullptr;
+  tx_scn* const scene = *found;
+  scenes.erase(found);
+  return scene;
 }
 
-std::unique_ptr<tx_lr_group> take_layer(tx_lr_group& group, tx_uuid uuid) {
-  if (auto layer = take(group.children, uuid)) return layer;
-  for (const auto& child : group.children) {
-    if (auto layer = take_layer(*child, uuid)) return layer;
+// Unlinks the group or layer with `uuid` from beneath `group`, or answers null.
+tx_lr_group* take_layer(tx_lr_group& group, tx_uuid uuid) {
+  const auto children = group.children();
+  for (std::size_t i = 0; i < children.size(); ++i) {
+    tx_lr_group* const child = children[i];
+    if (child->uuid.opaque == uuid.opaque) {
+      group.remove_child(i);
+      return child;
+    }
+    if (tx_lr_group* const layer = take_layer(*child, uuid)) return layer;
   }
   return nullptr;
-}
-
-// Every scene collection of the project, its own and the plug-ins'.
-template <typename Visit>
-void for_each_collection(tx_prj& project, Visit visit) {
-  visit(project.scenes_2d.scenes);
-  visit(project.scenes_3d.scenes);
-  visit(project.layouts.scenes);
-  for (const auto& collection : project.plugin_collections) visit(collection->scenes);
 }
 
 std::string describe(std::string_view path, const project_file_error& error) {
@@ -57,13 +53,12 @@ bool project_model::load(std::string_view path) {
 
 bool project_model::load_or_throw(std::string_view path) {
   project_file_error problem;
-  std::unique_ptr<tx_prj> loaded = read_project_file(path_from_utf8(path), problem);
+  entity_storage storage;
+  std::unique_ptr<tx_prj> loaded = read_project_file(path_from_utf8(path), problem, &storage);
   if (!loaded) {
     error_ = describe(path, problem);
     return false;
   }
-  entity_storage storage;
-  storage.index(*loaded);
   // Nothing below throws: the new project replaces the old one whole.
   close();
   project_ = std::move(loaded);
@@ -97,8 +92,7 @@ bool project_model::save_or_throw(std::string_view path) {
 
 void project_model::close() noexcept {
   storage_.clear();
-  removed_groups_.clear();
-  removed_scenes_.clear();
+  writes_.clear();
   project_.reset();
   bracket_ = update_bracket();
   writes_.clear();
@@ -106,36 +100,34 @@ void project_model::close() noexcept {
 
 bool project_model::remove(tx_uuid uuid) {
   if (!project_ || storage_.find(uuid) == nullptr) return false;
-  // Room first, so that keeping the removed node cannot fail once it is out of the project.
-  removed_scenes_.reserve(removed_scenes_.size() + 1);
-  removed_groups_.reserve(removed_groups_.size() + 1);
-  std::unique_ptr<tx_scn> scene;
-  for_each_collection(*project_, [&](auto& scenes) {
-    if (!scene) scene = take(scenes, uuid);
+  tx_scn* scene = nullptr;
+  for_each_collection(*project_, [&](std::vector<tx_scn*>& scenes) {
+    if (scene == nullptr) scene = take_scene(scenes, uuid);
   });
-  if (scene) {
+  if (scene != nullptr) {
     storage_.forget(*scene);
-    removed_scenes_.push_back(std::move(scene));
     return true;
   }
-  std::unique_ptr<tx_lr_group> layer;
-  for_each_collection(*project_, [&](auto& scenes) {
-    for (const auto& candidate : scenes) {
-      if (!layer && candidate->layers) layer = take_layer(*candidate->layers, uuid);
+  tx_lr_group* layer = nullptr;
+  for_each_collection(*project_, [&](std::vector<tx_scn*>& scenes) {
+    for (tx_scn* candidate : scenes) {
+      if (layer == nullptr && candidate->layers != nullptr) {
+        layer = take_layer(*candidate->layers, uuid);
+      }
     }
   });
-  if (!layer) return false;
+  if (layer == nullptr) return false;
   storage_.forget(*layer);
-  removed_groups_.push_back(std::move(layer));
   return true;
 }
 
 void project_model::set_caption(tx_entity& entity, std::u16string_view caption) {
-  // Room first (never less than the caption has, so `caption` may be part of it): once the
-  // write is recorded, taking the new caption cannot fail.
-  entity.caption.reserve(caption.size());
-  writes_.record(entity.uuid, entity.caption, caption, bracket_.depth());
-  entity.caption.assign(caption);
+  if (!project_) return;
+  // The old caption stays where it is (a plug-in or the record may hold it); the new one is
+  // kept beside it. Room first: once the write is recorded, nothing fails.
+  const std::u16string_view kept = project_->memory.keep_caption(caption);
+  writes_.record(entity.uuid, entity.caption.data(), kept.data(), bracket_.depth());
+  entity.caption = kept;
   bracket_.notify();
 }
 

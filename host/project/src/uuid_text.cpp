@@ -6,13 +6,22 @@
 
 namespace tx::host {
 
-std::string uuid_to_text(tx_uuid uuid) {
-  std::array<char, 16> digits{};
-  // 16 digits always suffice for 64 bits.
+std::array<char, 16> uuid_digits(tx_uuid uuid) noexcept {
+  std::array<char, 16> digits;
+  digits.fill('0');
+  // Written at the end, after the leading zeros; 16 digits always suffice for 64 bits.
+  std::array<char, 16> written{};
   const char* const end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), uuid.opaque, 16).ptr;
-  const std::string_view written(digits.data(), static_cast<std::size_t>(end - digits.data()));
-  return std::string(digits.size() - written.size(), '0') + std::string(written);
+      std::to_chars(written.data(), written.data() + written.size(), uuid.opaque, 16).ptr;
+  const auto length = static_cast<std::size_t>(end - written.data());
+  std::copy(static_cast<const char*>(written.data()), end,
+            digits.end() - static_cast<std::ptrdiff_t>(length));
+  return digits;
+}
+
+std::string uuid_to_text(tx_uuid uuid) {
+  const std::array<char, 16> digits = uuid_digits(uuid);
+  return std::string(digits.data(), digits.size());
 }
 
 std::optional<std::uint64_t> uuid_from_text(std::string_view text) noexcept {

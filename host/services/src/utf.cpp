@@ -25,21 +25,22 @@ void append_utf8(std::string& out, char32_t c) {
   }
 }
 
-void append_utf16(std::u16string& out, char32_t c) {
+char16_t* put_utf16(char16_t* out, char32_t c) noexcept {
   if (c < 0x10000) {
-    out += static_cast<char16_t>(c);
+    *out++ = static_cast<char16_t>(c);
   } else {
     c -= 0x10000;
-    out += static_cast<char16_t>(0xD800 + (c >> 10));
-    out += static_cast<char16_t>(0xDC00 + (c & 0x3FF));
+    *out++ = static_cast<char16_t>(0xD800 + (c >> 10));
+    *out++ = static_cast<char16_t>(0xDC00 + (c & 0x3FF));
   }
+  return out;
 }
 
 bool is_high_surrogate(char32_t c) { return c >= 0xD800 && c <= 0xDBFF; }
 bool is_low_surrogate(char32_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
 
 // Decodes one well-formed sequence at `text[i]`; returns its length, or 0 when malformed.
-std::size_t decode_utf8(std::string_view text, std::size_t i, char32_t& c) {
+std::size_t decode_utf8(std::string_view text, std::size_t i, char32_t& c) noexcept {
   const auto lead = static_cast<std::uint8_t>(text[i]);
   std::size_t length = 0;
   char32_t minimum = 0;
@@ -75,9 +76,19 @@ std::size_t decode_utf8(std::string_view text, std::size_t i, char32_t& c) {
 
 std::string to_utf8(std::u16string_view text) {
   std::string out;
+  to_utf8(text, out);
+  return out;
+}
+
+void to_utf8(std::u16string_view text, std::string& out) {
+  out.clear();
   out.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     char32_t c = text[i];
+    if (c < 0x80) {
+      out += static_cast<char>(c);
+      continue;
+    }
     if (is_high_surrogate(c) && i + 1 < text.size() && is_low_surrogate(text[i + 1])) {
       c = 0x10000 + ((c - 0xD800) << 10) + (text[i + 1] - 0xDC00);
       ++i;
@@ -86,25 +97,37 @@ std::string to_utf8(std::u16string_view text) {
     }
     append_utf8(out, c);
   }
-  return out;
 }
 
 std::u16string to_utf16(std::string_view text) {
-  std::u16string out;
-  out.reserve(text.size());
+  std::u16string out(text.size(), u'\0');
+  out.resize(to_utf16(text, out.data()));
+  return out;
+}
+
+// Every sequence of n bytes makes at most n code units (4 bytes: a surrogate pair), and each
+// malformed byte one, so `out` never needs more than text.size().
+std::size_t to_utf16(std::string_view text, char16_t* out) noexcept {
+  char16_t* const start = out;
   std::size_t i = 0;
   while (i < text.size()) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if (byte < 0x80) {
+      *out++ = byte;
+      ++i;
+      continue;
+    }
     char32_t c = 0;
     const std::size_t length = decode_utf8(text, i, c);
     if (length == 0) {
-      append_utf16(out, kReplacement);
+      out = put_utf16(out, kReplacement);
       ++i;
     } else {
-      append_utf16(out, c);
+      out = put_utf16(out, c);
       i += length;
     }
   }
-  return out;
+  return static_cast<std::size_t>(out - start);
 }
 
 }  // namespace tx::host

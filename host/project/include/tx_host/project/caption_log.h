@@ -1,11 +1,9 @@
-// The record of caption writes that the tests read: one compact record a write, the old and the
-// new caption copied once into chunks of text that never move, so a caption handed out stays
-// valid while more are recorded.
+// The record of caption writes that the tests and txhost read: one compact record a write. The
+// captions it points to are the project's own (its caption memory keeps every caption, old and
+// new, until the project closes), so nothing is copied.
 #pragma once
 
 #include <cstddef>
-#include <memory>
-#include <string_view>
 #include <vector>
 
 #include "tx_host/project.h"
@@ -18,28 +16,20 @@ class caption_log {
   caption_log(const caption_log&) = delete;
   caption_log& operator=(const caption_log&) = delete;
 
-  // Records one write. On failure (out of memory) nothing is recorded.
-  void record(tx_uuid uuid, std::u16string_view old_caption, std::u16string_view new_caption,
+  // Records one write; both captions are NUL-terminated and must outlive the record. On failure
+  // (out of memory) nothing is recorded.
+  void record(tx_uuid uuid, const char16_t* old_caption, const char16_t* new_caption,
               std::size_t depth);
   std::size_t size() const noexcept { return writes_.size(); }
-  // Write `index`, oldest first; its captions are NUL-terminated and live until clear().
+  // Write `index`, oldest first.
   const tx_host_caption_write& operator[](std::size_t index) const noexcept {
     return writes_[index];
   }
-  // Forgets every write and frees its text.
+  // Forgets every write.
   void clear() noexcept;
 
  private:
-  // Room for `units` code units in the current chunk, starting a new one when it is full.
-  char16_t* room(std::size_t units);
-  static const char16_t* copy(std::u16string_view text, char16_t* into) noexcept;
-
-  static constexpr std::size_t chunk_units = 32 * 1024;
-
   std::vector<tx_host_caption_write> writes_;
-  std::vector<std::unique_ptr<char16_t[]>> chunks_;
-  char16_t* free_ = nullptr;  // the first free code unit of the last chunk
-  std::size_t left_ = 0;      // free code units from there
 };
 
 }  // namespace tx::host

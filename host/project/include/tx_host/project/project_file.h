@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "tx_host/project/entity_storage.h"
 #include "tx_host/project/nodes.h"
 
 namespace tx::host {
@@ -26,17 +27,20 @@ struct project_file_error {
 std::filesystem::path path_from_utf8(std::string_view text);
 
 // The project in `text`, or null with `error` set when the document is malformed or
-// inconsistent. Nothing outside the returned project is touched.
-std::unique_ptr<tx_prj> parse_project(std::string_view text, project_file_error& error);
+// inconsistent. `index`, when given, receives every element of the project by its uuid.
+// Nothing else outside the returned project is touched.
+std::unique_ptr<tx_prj> parse_project(std::string_view text, project_file_error& error,
+                                      entity_storage* index = nullptr);
 
-// The project file at `path`, or null with `error` set.
+// The project file at `path`, read as it streams in, or null with `error` set.
 std::unique_ptr<tx_prj> read_project_file(const std::filesystem::path& path,
-                                          project_file_error& error);
+                                          project_file_error& error,
+                                          entity_storage* index = nullptr);
 
 // The document for `project`: two-space indentation, UTF-8, keys in a fixed order.
 std::string format_project(const tx_prj& project);
 
-// Writes the document to a temporary file beside `path` and renames it over `path`. False with
+// Streams the document into a temporary file beside `path` and renames it over `path`. False with
 // `error` set when that fails; the old file, if any, is then as it was and no temporary file
 // is left behind.
 bool write_project_file(const tx_prj& project, const std::filesystem::path& path,

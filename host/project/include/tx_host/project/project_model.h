@@ -46,12 +46,10 @@ class project_model {
   bool load_or_throw(std::string_view path);
   bool save_or_throw(std::string_view path);
 
+  // Elements removed from the open project stay in its memory until it closes, so that handles
+  // a plug-in still holds stay readable.
   std::unique_ptr<tx_prj> project_;
   entity_storage storage_;
-  // Elements removed from the open project, kept until it closes so that handles a plug-in
-  // still holds stay readable.
-  std::vector<std::unique_ptr<tx_scn>> removed_scenes_;
-  std::vector<std::unique_ptr<tx_lr_group>> removed_groups_;
   update_bracket bracket_;
   caption_log writes_;
   std::string error_;
