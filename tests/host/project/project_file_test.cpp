@@ -80,6 +80,65 @@ TEST(ProjectFileRefusals, EveryFileInTheBadFolderHasItsReason) {
   }
 }
 
+// A whole document: `before` first in the project's object, then its format and `version`, and
+// the three collections, the 2D scenes holding `scenes`.
+std::string document(std::string_view before, std::string_view scenes = "",
+                     std::string_view version = "1") {
+  return "{" + std::string(before) + R"("format":"tarvex-project","version":)" +
+         std::string(version) + R"(,"scenes_2d":{"caption":"S","scenes":[)" + std::string(scenes) +
+         R"(]},"scenes_3d":{"caption":"T","scenes":[]},"layouts":{"caption":"L","scenes":[]}})";
+}
+
+struct document_case {
+  const char* name;
+  std::string text;
+  std::string where;
+  std::string what;  // empty: the document is read
+};
+
+// What only a reader that streams through the document can get wrong: the order in which faults
+// are told, where a value stands when its key comes late, and what follows a fault.
+const std::vector<document_case> streamed_documents = {
+    {"an unknown key before a newer version", document(R"("colour":1,)", "", "2"), "/version",
+     "unsupported version 2 (this host reads version 1)"},
+    {"broken JSON after a fault", R"({"colour":1,"format":"tarvex-project","version":1,])",
+     "line 1, column 51", "missing a name for object member"},
+    {"a column counted in characters", R"({"caption":"Проект" "x"})", "line 1, column 21",
+     "missing a comma or '}' after an object member"},
+    {"a NUL byte after the document", document("") + std::string(1, '\0') + "{}",
+     "line 1, column " + std::to_string(document("").size() + 1),
+     "the document root must not be followed by other values"},
+    {"a key twice", document(R"("caption":"a","caption":"b",)"), "/caption", "duplicate key"},
+    {"a key that a pointer escapes", document(R"("a/b~c":1,)"), "/a~1b~0c", "unknown key"},
+    {"an unpaired surrogate", document("", R"({"uuid":"1","caption":"x\udc00"})"),
+     "/scenes_2d/scenes/0/caption", "\\udc00 is half of a surrogate pair, not a character"},
+    {"children before group says a layer",
+     document("", R"({"uuid":"1","caption":"s","layers":[{"uuid":"2","caption":"l",)"
+                  R"("children":[],"expanded":false,"group":false}]})"),
+     "/scenes_2d/scenes/0/layers/0/children", "a layer holds no children (\"group\" is false)"},
+    {"a deep value under an unknown key",
+     document(R"("colour":)" + std::string(100000, '[') + std::string(100000, ']') + ","),
+     "/colour", "unknown key"},
+    {"deep nesting that never ends", std::string(100000, '['), "",
+     "expected an object, found an array"},
+    {"a byte order mark", "\xEF\xBB\xBF" + document(""), "", ""},
+};
+
+TEST(ProjectFileRefusals, StreamedDocumentsAreToldInOrderAndByTheirPlace) {
+  const std::filesystem::path folder = scratch_folder();
+  for (const document_case& c : streamed_documents) {
+    const std::string path = utf8(folder / "project.json");
+    std::ofstream(folder / "project.json", std::ios::binary) << c.text;
+    const bool loaded = tx_host_project_load(path.c_str());
+    EXPECT_EQ(loaded, c.what.empty()) << c.name;
+    if (!c.what.empty()) {
+      EXPECT_EQ(tx_host_project_error(),
+                path + (c.where.empty() ? "" : ": " + c.where) + ": " + c.what)
+          << c.name;
+    }
+  }
+}
+
 // Each example saved over the one before it: the file is replaced whole, and only it is left.
 TEST(ProjectFileRoundTrip, UnchangedExamplesAreSavedByteForByteOverTheOldFile) {
   const std::filesystem::path folder = scratch_folder();
