@@ -95,8 +95,10 @@ class table_maker {
   std::string table(std::string_view build) const {
     const bool wine = build == "wine";
     std::string text =
-        "| | 10k | 100k | 1M | growth 100k→1M | goal at 1M | met? |\n"
-        "|---|---:|---:|---:|---:|---|---|\n";
+        wine ? "| | 10k | 100k | 1M | growth 100k→1M | × native at 1M | goal at 1M | met? |\n"
+               "|---|---:|---:|---:|---:|---:|---|---|\n"
+             : "| | 10k | 100k | 1M | growth 100k→1M | goal at 1M | met? |\n"
+               "|---|---:|---:|---:|---:|---|---|\n";
     for (const row& r : rows) {
       if (wine && r.native_only) continue;
       text += "| " + std::string(r.title) + " |";
@@ -114,6 +116,14 @@ class table_maker {
                       r.shown == unit::times ? "" : " per element");
       }
       text += " " + std::string(growth) + " |";
+      if (wine) {
+        // How the Windows build under Wine compares with the native build on the same row.
+        const std::optional<double> native = figure("native", r, 1'000'000);
+        char times[32] = "—";
+        if (native && at_1m && *native > 0)
+          std::snprintf(times, sizeof times, "%.2f×", *at_1m / *native);
+        text += " " + std::string(times) + " |";
+      }
       text += " " + goal_text(r, wine) + " | " + met_text(r, wine, at_1m) + " |\n";
     }
     return text;

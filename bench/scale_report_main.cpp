@@ -302,14 +302,29 @@ int main(int argc, char** argv) {
                  bad_argument.c_str());
     return 2;
   }
-  static const std::set<std::string, std::less<>> known = {
-      "projects",       "results",         "only",
-      "budget-seconds", "write-names",     "document",
-      "template",       "native",          "windows",
-      "native-missing", "windows-missing", "sed-names-per-second",
-      "date",           "machine",         "native-load",
-      "windows-load",   "window",          "window-missing",
-      "window-load"};
+  static const std::set<std::string, std::less<>> known = {"projects",
+                                                           "results",
+                                                           "only",
+                                                           "budget-seconds",
+                                                           "write-names",
+                                                           "document",
+                                                           "template",
+                                                           "native",
+                                                           "windows",
+                                                           "native-missing",
+                                                           "windows-missing",
+                                                           "sed-names-per-second",
+                                                           "date",
+                                                           "machine",
+                                                           "native-load",
+                                                           "windows-load",
+                                                           "window",
+                                                           "window-missing",
+                                                           "window-load",
+                                                           "project-files",
+                                                           "project-files-missing",
+                                                           "project-files-load",
+                                                           "section"};
   for (const auto& [name, value] : options) {
     if (!known.contains(name)) {
       std::fprintf(stderr, "unknown option --%s\n", name.c_str());
