@@ -9,6 +9,7 @@
 //   @GOALS@           every goal and whether each build meets it
 //   @MISSED@          the goals missed, one line each (or that none is)
 //   @WINDOW@          the window's steps over a large project, Windows build under Wine
+//   @PROJECT_FILES@   txhost opening, renaming and saving large project files, both builds
 #pragma once
 
 #include <optional>
@@ -31,12 +32,21 @@ struct document_inputs {
   std::string windows_load;               // load average around the Windows run
   const scale_results* window = nullptr;  // null: not measured, `window_missing` says why
   std::string window_missing;
-  std::string window_load;  // load average around the window benchmark
+  std::string window_load;                       // load average around the window benchmark
+  const scale_results* project_files = nullptr;  // null: `project_files_missing` says why
+  std::string project_files_missing;
+  std::string project_files_load;  // load average around the project-file benchmark
 };
 
 // The document: `template_text` with every placeholder line replaced. A placeholder the
 // template lacks is simply not shown; a line with anything besides a placeholder is kept as is.
 std::string compose_performance_document(std::string_view template_text,
                                          const document_inputs& inputs);
+
+// `document` with its section that begins with the line `heading` (up to the next heading of
+// the same or a higher level) replaced by that section of `composed`; when `document` lacks the
+// section it is added at the end. Nothing when `composed` lacks it.
+std::optional<std::string> replace_section(std::string_view document, std::string_view composed,
+                                           std::string_view heading);
 
 }  // namespace tx::bench

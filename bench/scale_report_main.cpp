@@ -14,8 +14,12 @@
 //                   [--native-missing=WHY] [--windows-missing=WHY] [--sed-names-per-second=N]
 //                   [--date=TEXT] [--machine=TEXT] [--native-load=TEXT] [--windows-load=TEXT]
 //                   [--window=FILE] [--window-missing=WHY] [--window-load=TEXT]
-//       writes the performance document from its template and the results of both builds and
-//       of the window benchmark (tx_gui_outline_bench)
+//                   [--project-files=FILE] [--project-files-missing=WHY]
+//                   [--project-files-load=TEXT] [--section=HEADING]
+//       writes the performance document from its template and the results of both builds, of
+//       the window benchmark (tx_gui_outline_bench) and of the project-file benchmark
+//       (tx_project_files_bench); with --section, only the section under the heading line
+//       HEADING is written anew into the document at OUT, the rest of it kept as it is
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -151,8 +155,25 @@ int write_document(const std::map<std::string, std::string>& options) {
   inputs.native_load = option(options, "native-load");
   inputs.windows_load = option(options, "windows-load");
   inputs.window_load = option(options, "window-load");
+  inputs.project_files_missing = option(options, "project-files-missing");
+  const std::optional<scale_results> project_files =
+      results_of(options, "project-files", inputs.project_files_missing);
+  inputs.project_files = project_files ? &*project_files : nullptr;
+  inputs.project_files_load = option(options, "project-files-load");
   const std::string out = option(options, "document");
-  if (!write_file(out, compose_performance_document(template_text, inputs))) {
+  std::string document = compose_performance_document(template_text, inputs);
+  // --section=HEADING: only that section of the document is written anew, the rest kept.
+  if (const std::string heading = option(options, "section"); !heading.empty()) {
+    std::string existing;
+    read_file(out, existing);
+    std::optional<std::string> updated = replace_section(existing, document, heading);
+    if (!updated) {
+      std::fprintf(stderr, "the template has no section «%s»\n", heading.c_str());
+      return 1;
+    }
+    document = std::move(*updated);
+  }
+  if (!write_file(out, document)) {
     std::fprintf(stderr, "cannot write %s\n", out.c_str());
     return 1;
   }
@@ -281,14 +302,29 @@ int main(int argc, char** argv) {
                  bad_argument.c_str());
     return 2;
   }
-  static const std::set<std::string, std::less<>> known = {
-      "projects",       "results",         "only",
-      "budget-seconds", "write-names",     "document",
-      "template",       "native",          "windows",
-      "native-missing", "windows-missing", "sed-names-per-second",
-      "date",           "machine",         "native-load",
-      "windows-load",   "window",          "window-missing",
-      "window-load"};
+  static const std::set<std::string, std::less<>> known = {"projects",
+                                                           "results",
+                                                           "only",
+                                                           "budget-seconds",
+                                                           "write-names",
+                                                           "document",
+                                                           "template",
+                                                           "native",
+                                                           "windows",
+                                                           "native-missing",
+                                                           "windows-missing",
+                                                           "sed-names-per-second",
+                                                           "date",
+                                                           "machine",
+                                                           "native-load",
+                                                           "windows-load",
+                                                           "window",
+                                                           "window-missing",
+                                                           "window-load",
+                                                           "project-files",
+                                                           "project-files-missing",
+                                                           "project-files-load",
+                                                           "section"};
   for (const auto& [name, value] : options) {
     if (!known.contains(name)) {
       std::fprintf(stderr, "unknown option --%s\n", name.c_str());

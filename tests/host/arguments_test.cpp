@@ -19,6 +19,7 @@ TEST(TxhostArguments, AcceptsEveryFormWithItsOptionsInAnyOrder) {
     std::string run_project{}, run_plugin{}, script{};
     bool no_localizer = false, hostile = false, gui = false;
     std::string screenshots{};
+    bool all = false, timings = false;
   };
   struct row {
     std::vector<std::string> arguments;
@@ -36,6 +37,10 @@ TEST(TxhostArguments, AcceptsEveryFormWithItsOptionsInAnyOrder) {
        {.language_offset = 2147483647, .run_project = "c.json", .run_plugin = "p.dll"}},
       {{"c.json", "--no-localizer", "--plugin", "p.dll", "--hostile"},
        {.run_project = "c.json", .run_plugin = "p.dll", .no_localizer = true, .hostile = true}},
+      {{"--project", "c.json", "--all", "--timings"},
+       {.project = "c.json", .all = true, .timings = true}},
+      {{"--timings", "c.json", "--plugin", "p.dll", "--all"},
+       {.run_project = "c.json", .run_plugin = "p.dll", .all = true, .timings = true}},
       {{"--script", "a b.txt", "--plugin", "p.so", "/x/c.json"},
        {.run_project = "/x/c.json", .run_plugin = "p.so", .script = "a b.txt"}},
 #ifdef _WIN32
@@ -46,7 +51,7 @@ TEST(TxhostArguments, AcceptsEveryFormWithItsOptionsInAnyOrder) {
   // Every field, in declaration order, of the options parsed and of the row.
   const auto fields = [](const auto& o) {
     return std::tuple(o.help, o.plugin, o.project, o.language_offset, o.run_project, o.run_plugin,
-                      o.script, o.no_localizer, o.hostile, o.gui, o.screenshots);
+                      o.script, o.no_localizer, o.hostile, o.gui, o.screenshots, o.all, o.timings);
   };
   for (const row& r : rows) {
     const parsed_arguments parsed = parse_arguments(r.arguments);
@@ -100,6 +105,9 @@ TEST(TxhostArguments, RejectsWhatMakesNoSense) {
       {{"c.json", "--plugin", "p.dll", "--gui"}, "--gui shows a window in the Windows build only"},
 #endif
       {{"--project", "c.json", "--hostile"}, "--hostile" + run_only},
+      {{"--list", "p.dll", "--all"}, "--all goes with --project FILE or PROJECT --plugin PLUGIN"},
+      {{"--timings"}, "--timings goes with --project FILE or PROJECT --plugin PLUGIN"},
+      {{"--project", "c.json", "--all", "--all"}, "--all given twice"},
   };
   for (const row& r : rows) {
     const parsed_arguments parsed = parse_arguments(r.arguments);
@@ -112,7 +120,7 @@ TEST(TxhostArguments, TheUsageTellsTheRunFormAndItsOptions) {
   const std::string usage = txhost_usage();
   EXPECT_NE(usage.find("txhost PROJECT --plugin PLUGIN [--script FILE] [--lang ru|en|N]"),
             std::string::npos);
-  for (const char* option : {"--no-localizer", "--hostile"}) {
+  for (const char* option : {"--no-localizer", "--hostile", "--all", "--timings"}) {
     EXPECT_NE(usage.find(std::string("  ") + option + " "), std::string::npos) << option;
   }
 }

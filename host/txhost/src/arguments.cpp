@@ -34,6 +34,16 @@ std::string& path_of(txhost_options& options, std::string_view option) {
   return options.script;
 }
 
+// The option's field, for the options that take no value; null for any other argument.
+bool* flag_of(txhost_options& options, std::string_view argument) {
+  if (argument == "--no-localizer") return &options.no_localizer;
+  if (argument == "--hostile") return &options.hostile;
+  if (argument == "--gui") return &options.gui;
+  if (argument == "--all") return &options.all;
+  if (argument == "--timings") return &options.timings;
+  return nullptr;
+}
+
 parsed_arguments failure(std::string error) { return {std::nullopt, std::move(error)}; }
 
 // "ru", "en", or a language offset written in decimal digits (0 to 2147483647).
@@ -61,12 +71,9 @@ parsed_arguments parse_arguments(std::span<const std::string> arguments) {
       options.help = true;
       continue;
     }
-    if (argument == "--no-localizer" || argument == "--hostile" || argument == "--gui") {
-      bool& flag = argument == "--hostile" ? options.hostile
-                   : argument == "--gui"   ? options.gui
-                                           : options.no_localizer;
-      if (flag) return failure(argument + " given twice");
-      flag = true;
+    if (bool* const flag = flag_of(options, argument)) {
+      if (*flag) return failure(argument + " given twice");
+      *flag = true;
       continue;
     }
     const auto option =
@@ -114,6 +121,11 @@ parsed_arguments parse_arguments(std::span<const std::string> arguments) {
                                                : "--no-localizer") +
                    " goes with PROJECT --plugin PLUGIN");
   }
+  // Both are about the project file: its listing, its opening and its saving.
+  if ((options.all || options.timings) && !running && options.project.empty()) {
+    return failure(std::string(options.all ? "--all" : "--timings") +
+                   " goes with --project FILE or PROJECT --plugin PLUGIN");
+  }
   if (!options.screenshots.empty() && !options.gui) {
     return failure("--screenshots DIR goes with --gui");
   }
@@ -128,10 +140,10 @@ parsed_arguments parse_arguments(std::span<const std::string> arguments) {
 }
 
 const char* txhost_usage() noexcept {
-  return "Usage: txhost --list PLUGIN [--project FILE] [--lang ru|en|N]\n"
-         "       txhost --project FILE [--lang ru|en|N]\n"
+  return "Usage: txhost --list PLUGIN [--project FILE [--all] [--timings]] [--lang ru|en|N]\n"
+         "       txhost --project FILE [--all] [--timings] [--lang ru|en|N]\n"
          "       txhost PROJECT --plugin PLUGIN [--script FILE] [--lang ru|en|N] [--no-localizer]\n"
-         "              [--hostile] [--gui [--screenshots DIR]]\n"
+         "              [--hostile] [--gui [--screenshots DIR]] [--all] [--timings]\n"
          "       txhost --help\n"
          "\n"
          "Loads the Tarvex plug-in PLUGIN as the host application does and prints one line per\n"
@@ -139,14 +151,15 @@ const char* txhost_usage() noexcept {
          "\n"
          "With --project, first opens the project file FILE and prints its elements as the host\n"
          "holds them: collections, scenes, layer groups and layers, one a line, indented by\n"
-         "level, with their uuids and captions.\n"
+         "level, with their uuids and captions. A long listing stops after its first 200\n"
+         "lines with one line that tells how many more there are.\n"
          "\n"
          "With PROJECT --plugin, opens and prints the project file PROJECT, loads PLUGIN and runs\n"
          "its utility txk_project_rename. Its dialog is printed as text and driven by the\n"
          "commands of the script FILE, or of standard input (docs/script-format.md); the script\n"
          "may delete project elements while the dialog is shown and run the utility again after\n"
          "it closed. When a dialog wrote new names into the project, PROJECT is saved and the\n"
-         "names are listed.\n"
+         "names are listed (the first 200, then how many more).\n"
          "\n"
          "  --list PLUGIN    the plug-in library to load\n"
          "  --project FILE   the project file to open (docs/project-format.md)\n"
@@ -162,6 +175,10 @@ const char* txhost_usage() noexcept {
          "                   the script drives it through its controls; without --script a\n"
          "                   person works it with mouse and keyboard\n"
          "  --screenshots DIR  where `screenshot FILE` saves a FILE named without a folder\n"
+         "  --all            list every element of the project and every saved name, however\n"
+         "                   many (by default a listing stops after 200 lines)\n"
+         "  --timings        print on standard error how long opening and saving the project\n"
+         "                   file took, in milliseconds, one line each\n"
          "  --help           print this help\n"
          "\n"
          "Exit status: 0 done, 1 the plug-in could not be loaded, the project file was refused\n"

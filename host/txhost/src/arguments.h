@@ -32,6 +32,10 @@ struct txhost_options {
   bool gui = false;
   // --screenshots DIR: where `screenshot FILE` writes a FILE named without a folder (--gui).
   std::string screenshots;
+  // --all: the project listing and the saved names are printed in full, however long.
+  bool all = false;
+  // --timings: how long opening and saving the project file took, one line each on stderr.
+  bool timings = false;
 };
 
 struct parsed_arguments {

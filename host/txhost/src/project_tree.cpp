@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "listing_limit.h"
 #include "tx/host/txk_basic.h"
 #include "tx/host/txk_entity.h"
 #include "tx/host/txk_lr.h"
@@ -88,13 +89,19 @@ class element_list final : public element_walker {
 
 class tree_printer {
  public:
-  std::string print(tx_prj* project) {
+  tree_printer(std::FILE* out, std::size_t listed) : stream_(out), listed_(listed) {}
+
+  void print(tx_prj* project) {
     line(0, {"project", caption_of(tx_prj_safe_upcast(project), &tx_entity_get_wcaption),
              tx_options_get_invert_layers() ? "(invert_layers: yes)" : "(invert_layers: no)"});
     scenes_2d("scenes_2d", "", tx_prj_get_scns_2d_ptr(project));
     tx_scns_3d* const scenes_3d = tx_prj_get_scns_3d_ptr(project);
-    line(0,
-         {"scenes_3d", caption_of(tx_scns_3d_safe_upcast(scenes_3d), &tx_entities_get_wcaption)});
+    if (shown()) {
+      line(0,
+           {"scenes_3d", caption_of(tx_scns_3d_safe_upcast(scenes_3d), &tx_entities_get_wcaption)});
+    } else {
+      ++hidden_;
+    }
     for (uint32_t i = 0; i < tx_scns_3d_get_size(scenes_3d); ++i) {
       scene(tx_scns_3d_get(scenes_3d, i));
     }
@@ -104,10 +111,14 @@ class tree_printer {
       const char* const meta_id = tx_scns_2d_get_meta_id(collection);
       scenes_2d("plugin_collection", meta_id != nullptr ? meta_id : "", collection);
     }
-    return std::move(out_);
+    if (hidden_ > 0) out_ += more_line("", hidden_, "elements");
+    flush();
   }
 
  private:
+  // Past the limit the walk only counts what it leaves out, without asking for captions.
+  bool shown() const noexcept { return printed_ < listed_; }
+
   // The parts of one line, separated by spaces, indented two spaces a level.
   // Empty parts are left out.
   void line(std::size_t level, std::initializer_list<std::string_view> parts) {
@@ -120,12 +131,24 @@ class tree_printer {
       first = false;
     }
     out_ += '\n';
+    ++printed_;
+    if (out_.size() >= kPiece) flush();
+  }
+
+  // The listing goes out in pieces: a million lines are never held at once.
+  void flush() {
+    std::fwrite(out_.data(), 1, out_.size(), stream_);
+    out_.clear();
   }
 
   // A 2D collection: its kind, its meta id (empty for the project's own) and its caption.
   void scenes_2d(std::string_view kind, std::string_view meta_id, tx_scns_2d* collection) {
-    line(0, {kind, meta_id,
-             caption_of(tx_scns_2d_safe_upcast(collection), &tx_entities_get_wcaption)});
+    if (shown()) {
+      line(0, {kind, meta_id,
+               caption_of(tx_scns_2d_safe_upcast(collection), &tx_entities_get_wcaption)});
+    } else {
+      ++hidden_;
+    }
     for (uint32_t i = 0; i < tx_scns_2d_get_size(collection); ++i) {
       scene(tx_scns_2d_get(collection, i));
     }
@@ -133,28 +156,45 @@ class tree_printer {
 
   void scene(tx_scn* scene) {
     tx_lr_group* const root = tx_scn_get_lr_group_ptr(scene);
-    line(1, {"scene", uuid_of(tx_scn_safe_upcast(scene)), caption_of(scene, &tx_scn_get_wcaption),
-             root == nullptr ? "(no layer group)" : ""});
+    if (shown()) {
+      line(1, {"scene", uuid_of(tx_scn_safe_upcast(scene)), caption_of(scene, &tx_scn_get_wcaption),
+               root == nullptr ? "(no layer group)" : ""});
+    } else {
+      ++hidden_;
+    }
     if (root != nullptr) children(root, 2);
   }
 
   void children(tx_lr_group* group, std::size_t level) {
     for (uint32_t i = 0; i < tx_lr_group_get_count_child(group); ++i) {
       tx_lr_group* const child = tx_lr_group_get_child_by_index(group, i);
-      line(level,
-           {tx_lr_group_is_group(child) ? "group" : "layer",
-            uuid_of(tx_lr_group_safe_upcast(child)), caption_of(child, &tx_lr_group_get_wcaption),
-            tx_lr_group_get_expanded(child) ? "expanded" : "collapsed"});
+      if (shown()) {
+        line(level,
+             {tx_lr_group_is_group(child) ? "group" : "layer",
+              uuid_of(tx_lr_group_safe_upcast(child)), caption_of(child, &tx_lr_group_get_wcaption),
+              tx_lr_group_get_expanded(child) ? "expanded" : "collapsed"});
+      } else {
+        ++hidden_;
+      }
       children(child, level + 1);
     }
   }
 
+  static constexpr std::size_t kPiece = 64 * 1024;
+
+  std::FILE* stream_;
+  std::size_t listed_;
+  std::size_t printed_ = 0;
+  std::size_t hidden_ = 0;
   std::string out_;
 };
 
 }  // namespace
 
-std::string describe_project(tx_prj* project) { return tree_printer().print(project); }
+void print_project(tx_prj* project, std::FILE* out, std::size_t listed) {
+  tree_printer(out, listed).print(project);
+  std::fflush(out);
+}
 
 std::vector<project_element> project_elements(tx_prj* project) {
   element_list list;

@@ -1,6 +1,8 @@
 // The open project as the host's libraries answer for it: what txhost --project prints.
 #pragma once
 
+#include <cstddef>
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -17,8 +19,10 @@ namespace tx::host {
 //     scene 00000000000000a4 "Пусто" (no layer group)
 //   plugin_collection plugin_scn_2d_well_planshet_collection3 "Планшеты"
 // Collections come in the host's order (2D scenes, 3D scenes, layouts, then the plug-ins'),
-// children in the host's order whatever the invert-layers option says.
-std::string describe_project(tx_prj* project);
+// children in the host's order whatever the invert-layers option says. Printed to `out` in
+// pieces; after `listed` lines the rest is only counted, and one last line tells how many more
+// there are: "… and 1,009,603 more elements (--all lists them all)".
+void print_project(tx_prj* project, std::FILE* out, std::size_t listed);
 
 // A scene, layer group or layer of the project: what the host's user can delete.
 struct project_element {
@@ -26,7 +30,7 @@ struct project_element {
   std::string caption;  // UTF-8
 };
 
-// Every scene, layer group and layer of `project`, in the order describe_project lists them.
+// Every scene, layer group and layer of `project`, in the order print_project lists them.
 std::vector<project_element> project_elements(tx_prj* project);
 
 }  // namespace tx::host

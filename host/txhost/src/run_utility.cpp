@@ -4,10 +4,12 @@
 #include <memory>
 #include <string_view>
 
+#include "listing_limit.h"
 #include "project_commands.h"
 #include "project_tree.h"
 #include "rename_catalogue.h"
 #include "saved_names.h"
+#include "step_timer.h"
 #include "tx/host/txk_prj.h"
 #include "tx/utility.h"
 #include "tx_host/dialog/command_source.h"
@@ -73,11 +75,14 @@ int run_utility(const txhost_options& options, std::FILE* out, std::FILE* err) {
     print(err, "txhost: " + error + "\n");
     return kScriptError;
   }
+  std::FILE* const timings = options.timings ? err : nullptr;
+  const step_timer opening(timings);
   if (!tx_host_project_load(options.run_project.c_str())) {
     print(err, "txhost: " + std::string(tx_host_project_error()) + "\n");
     return kCannotRun;
   }
-  print(out, describe_project(tx_prj_get_instance()));
+  opening.report("opening " + options.run_project);
+  print_project(tx_prj_get_instance(), out, listed_lines(options.all));
 
   // Declared in this order so that the plug-in is unloaded first: it may keep the registry's
   // and the view's pairs until then.
@@ -141,7 +146,8 @@ int run_utility(const txhost_options& options, std::FILE* out, std::FILE* err) {
     print(err, "txhost: nothing was saved: " + options.run_project + " is left as it was\n");
     return kScriptError;
   }
-  return save_written_names(options.run_project, out, err) ? kDone : kCannotRun;
+  const saving_report report{out, err, listed_lines(options.all), timings};
+  return save_written_names(options.run_project, report) ? kDone : kCannotRun;
 }
 
 }  // namespace tx::host

@@ -1,5 +1,9 @@
 #include "saved_names.h"
 
+#include <algorithm>
+
+#include "listing_limit.h"
+#include "step_timer.h"
 #include "tx_host/project.h"
 #include "tx_host/services/utf.h"
 
@@ -10,26 +14,42 @@ void print(std::FILE* stream, const std::string& text) {
   std::fwrite(text.data(), 1, text.size(), stream);
 }
 
-std::string utf8(const char16_t* text) { return to_utf8(text != nullptr ? text : u""); }
+void append_utf8(std::string& out, const char16_t* text) {
+  out += to_utf8(text != nullptr ? text : u"");
+}
 
 }  // namespace
 
-bool save_written_names(const std::string& path, std::FILE* out, std::FILE* err) {
+bool save_written_names(const std::string& path, const saving_report& report) {
   const std::size_t count = tx_host_project_caption_write_count();
   if (count == 0) return true;
+  const step_timer saving(report.timings);
   if (!tx_host_project_save(path.c_str())) {
-    print(err, "txhost: " + std::string(tx_host_project_error()) + "\n");
+    print(report.err, "txhost: " + std::string(tx_host_project_error()) + "\n");
     return false;
   }
-  std::string report =
+  saving.report("saving " + path);
+  std::string text =
       "saved " + path + ": " + std::to_string(count) + (count == 1 ? " name\n" : " names\n");
-  for (std::size_t i = 0; i < count; ++i) {
+  // The names go out in pieces, so that a million of them are never held at once.
+  constexpr std::size_t piece = 64 * 1024;
+  const std::size_t listed = std::min(count, report.listed_names);
+  for (std::size_t i = 0; i < listed; ++i) {
     tx_host_caption_write write{};
     if (!tx_host_project_caption_write(i, &write)) break;
-    report += "  " + utf8(write.old_caption) + " → " + utf8(write.new_caption) + "\n";
+    text += "  ";
+    append_utf8(text, write.old_caption);
+    text += " → ";
+    append_utf8(text, write.new_caption);
+    text += '\n';
+    if (text.size() >= piece) {
+      print(report.out, text);
+      text.clear();
+    }
   }
-  print(out, report);
-  std::fflush(out);
+  if (listed < count) text += more_line("  ", count - listed, "names");
+  print(report.out, text);
+  std::fflush(report.out);
   return true;
 }
 

@@ -3,8 +3,10 @@
 #include <string_view>
 
 #include "arguments.h"
+#include "listing_limit.h"
 #include "project_tree.h"
 #include "run_utility.h"
+#include "step_timer.h"
 #include "tx/host/txk_prj.h"
 #include "tx_host/basic.h"
 #include "tx_host/msgs.h"
@@ -26,12 +28,13 @@ void print(std::FILE* stream, std::string_view text) {
 
 // Opens the project file and prints its elements; a refused file is told on `err`.
 int open_project(const txhost_options& options, std::FILE* out, std::FILE* err) {
+  const step_timer opening(options.timings ? err : nullptr);
   if (!tx_host_project_load(options.project.c_str())) {
     print(err, "txhost: " + std::string(tx_host_project_error()) + "\n");
     return kCannotLoad;
   }
-  print(out, describe_project(tx_prj_get_instance()));
-  std::fflush(out);
+  opening.report("opening " + options.project);
+  print_project(tx_prj_get_instance(), out, listed_lines(options.all));
   return kDone;
 }
 

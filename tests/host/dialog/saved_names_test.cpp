@@ -24,7 +24,7 @@ TEST(SavedNames, AFileThatCannotBeWrittenIsTold) {
   const fs::path nowhere = fs::path(TX_TEST_OUTPUT_DIR) / "no_such_folder" / "x.json";
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
-  EXPECT_FALSE(save_written_names(nowhere.string(), stdout, stderr));
+  EXPECT_FALSE(save_written_names(nowhere.string(), {stdout, stderr, 10, nullptr}));
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
   const std::string told = testing::internal::GetCapturedStderr();
   EXPECT_TRUE(told.starts_with("txhost: ")) << told;
