@@ -1,6 +1,10 @@
 // The entity storage: every live scene, group and layer found by its uuid, and nothing else.
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <fstream>
+#include <set>
+
 #include "project_files.h"
 #include "tx/host/txk_lr.h"
 #include "tx/host/txk_prj.h"
@@ -71,6 +75,45 @@ TEST(EntityStorage, ARemovedSceneTakesItsLayersAndIsNotSaved) {
   EXPECT_EQ(find(0xe01), nullptr);
   EXPECT_EQ(tx_scns_2d_get_size(tx_prj_get_plugin_scns_2d_ptr(tx_prj_get_instance(), 1)), 0u);
   EXPECT_NE(find(0xd01), nullptr);
+}
+
+// The uuid index is a hash table that closes the gap a removal leaves by moving later entries
+// back: removals in a scrambled order, checked against the plain set of what is left, with
+// uuids that share their low bits so that runs of neighbouring slots form.
+TEST(EntityStorage, RemovalsInAnyOrderLeaveExactlyTheRestFindable) {
+  constexpr std::uint64_t layers = 3000;
+  auto uuid_of = [](std::uint64_t i) { return (i + 1) << 20 | 0xabc; };
+  std::string children;
+  for (std::uint64_t i = 0; i < layers; ++i) {
+    char layer[96];
+    std::snprintf(layer, sizeof layer,
+                  R"(%s{"uuid":"%llx","caption":"l","group":false,"expanded":false})",
+                  i == 0 ? "" : ",", static_cast<unsigned long long>(uuid_of(i)));
+    children += layer;
+  }
+  const std::filesystem::path file = scratch_folder() / "many.json";
+  std::ofstream(file, std::ios::binary)
+      << R"({"format":"tarvex-project","version":1,"scenes_2d":{"caption":"S","scenes":[)"
+      << R"({"uuid":"1","caption":"s","layers":[)" << children << R"(]}]},)"
+      << R"("scenes_3d":{"caption":"T","scenes":[]},"layouts":{"caption":"L","scenes":[]}})";
+  ASSERT_TRUE(tx_host_project_load(utf8(file).c_str())) << tx_host_project_error();
+
+  std::set<std::uint64_t> left;
+  for (std::uint64_t i = 0; i < layers; ++i) left.insert(uuid_of(i));
+  // 1009 is prime to 3000: i * 1009 mod 3000 visits every layer once, far from its neighbours.
+  for (std::uint64_t step = 0; step < layers * 2 / 3; ++step) {
+    const std::uint64_t gone = uuid_of(step * 1009 % layers);
+    ASSERT_TRUE(tx_host_project_remove(tx_uuid{gone})) << step;
+    left.erase(gone);
+    if (step % 250 != 0) continue;
+    for (std::uint64_t i = 0; i < layers; ++i) {
+      const bool kept = left.contains(uuid_of(i));
+      ASSERT_EQ(find(uuid_of(i)) != nullptr, kept) << "after " << step << ", layer " << i;
+    }
+  }
+  EXPECT_EQ(tx_lr_group_get_count_child(tx_scn_get_lr_group_ptr(
+                tx_scns_2d_get(tx_prj_get_scns_2d_ptr(tx_prj_get_instance()), 0))),
+            left.size());
 }
 
 }  // namespace
