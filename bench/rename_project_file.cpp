@@ -1,12 +1,12 @@
 #include "rename_project_file.h"
 
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <fstream>
 #include <string_view>
 #include <system_error>
 
+#include "project_text.h"
 #include "tx_host/project.h"
 
 namespace tx::bench {
@@ -18,9 +18,9 @@ constexpr std::array<std::string_view, 5> cyrillic_themes{"дороги", "ре�
                                                           "подписи"};
 
 // Writes the project's compact JSON, scene by scene, until the count is spent.
-class project_writer {
+class project_writer : project_text {
  public:
-  project_writer(std::ostream& out, std::size_t elements) : out_(out), left_(elements) {}
+  project_writer(std::ostream& out, std::size_t elements) : project_text(out, elements) {}
 
   void write() {
     text_ += R"({"format":"tarvex-project","version":1,"caption":"Проект project )";
@@ -29,18 +29,16 @@ class project_writer {
     for (std::size_t scene = 1; left_ > 0; ++scene) {
       if (scene > 1) text_ += ',';
       write_scene(scene);
-      out_.write(text_.data(), static_cast<std::streamsize>(text_.size()));
-      text_.clear();
+      flush();
     }
     text_ += R"(]},"scenes_3d":{"caption":"3D-сцены","scenes":[]},)";
     text_ += R"("layouts":{"caption":"Компоновки","scenes":[]},"plugin_collections":[]})";
     text_ += '\n';
-    out_.write(text_.data(), static_cast<std::streamsize>(text_.size()));
+    flush();
   }
 
  private:
   void write_scene(std::size_t scene) {
-    --left_;
     open_element();
     text_ += scene % 2 == 1 ? "Map layers " : "Карта ";
     number(scene);
@@ -48,7 +46,6 @@ class project_writer {
     const std::size_t groups = rename_layers_per_scene / rename_layers_per_group;
     for (std::size_t g = 1; g <= groups && left_ > 0; ++g) {
       if (g > 1) text_ += ',';
-      --left_;
       open_element();
       text_ += g % 2 == 1 ? "layer group " : "группа слоёв ";
       path(scene, g);
@@ -57,7 +54,6 @@ class project_writer {
       text_ += R"(,"children":[)";
       for (std::size_t l = 1; l <= rename_layers_per_group && left_ > 0; ++l) {
         if (l > 1) text_ += ',';
-        --left_;
         open_element();
         const std::size_t theme = (g + l) % latin_themes.size();
         text_ += l % 2 == 1 ? "Layer " : "Слой ";
@@ -72,33 +68,6 @@ class project_writer {
     }
     text_ += "]}";
   }
-
-  // `{"uuid":"…","caption":"` with the next uuid, 16 hexadecimal digits.
-  void open_element() {
-    char digits[16];
-    const auto end = std::to_chars(digits, digits + 16, next_uuid_++, 16).ptr;
-    text_ += R"({"uuid":")";
-    text_.append(16 - static_cast<std::size_t>(end - digits), '0');
-    text_.append(digits, end);
-    text_ += R"(","caption":")";
-  }
-
-  void number(std::size_t value) {
-    char digits[24];
-    const char* end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-    text_.append(digits, static_cast<std::size_t>(end - digits));
-  }
-
-  void path(std::size_t scene, std::size_t group) {
-    number(scene);
-    text_ += '.';
-    number(group);
-  }
-
-  std::ostream& out_;
-  std::size_t left_;
-  std::uint64_t next_uuid_ = 1;
-  std::string text_;
 };
 
 std::filesystem::path with_suffix(const std::filesystem::path& path, std::string_view suffix) {

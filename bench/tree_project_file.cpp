@@ -1,11 +1,12 @@
 #include "tree_project_file.h"
 
-#include <charconv>
 #include <cstdint>
 #include <fstream>
 #include <string>
 #include <string_view>
 #include <system_error>
+
+#include "project_text.h"
 
 namespace tx::bench {
 namespace {
@@ -15,9 +16,9 @@ constexpr std::string_view themes[] = {"roads",   "rivers",   "buildings", "parc
                                        "bridges", "forest",   "relief"};
 
 // Writes the project's JSON, element by element, until the count is spent.
-class project_writer {
+class project_writer : project_text {
  public:
-  project_writer(std::ostream& out, std::size_t elements) : out_(out), left_(elements) {}
+  project_writer(std::ostream& out, std::size_t elements) : project_text(out, elements) {}
 
   void write() {
     text_ += R"({"format":"tarvex-project","version":1,"caption":"scale )";
@@ -36,14 +37,12 @@ class project_writer {
 
  private:
   void write_scene(std::size_t scene) {
-    --left_;
     open_element();
     text_ += "map layers ";
     number(scene + 1);
     text_ += R"(","layers":[)";
     for (std::size_t g = 0; g < groups_per_scene && left_ > 0; ++g) {
       if (g > 0) text_ += ',';
-      --left_;
       open_element();
       text_ += "layer group ";
       number(g + 1);
@@ -58,17 +57,15 @@ class project_writer {
   }
 
   void write_inner_group(std::size_t g, std::size_t h) {
-    --left_;
     open_element();
     text_ += "layer group ";
-    path(g, h);
+    path(g + 1, h + 1);
     text_ += R"(","group":true,"expanded":false,"children":[)";
     for (std::size_t l = 0; l < layers_per_group && left_ > 0; ++l) {
       if (l > 0) text_ += ',';
-      --left_;
       open_element();
       text_ += l % 3 == 0 ? "Layer " : "layer ";
-      path(g, h);
+      path(g + 1, h + 1);
       text_ += '.';
       number(l + 1);
       text_ += ' ';
@@ -77,38 +74,6 @@ class project_writer {
     }
     text_ += "]}";
   }
-
-  // `{"uuid":"…","caption":"` with the next uuid, 16 hexadecimal digits.
-  void open_element() {
-    char digits[16];
-    const auto end = std::to_chars(digits, digits + 16, next_uuid_++, 16).ptr;
-    text_ += R"({"uuid":")";
-    text_.append(16 - static_cast<std::size_t>(end - digits), '0');
-    text_.append(digits, end);
-    text_ += R"(","caption":")";
-  }
-
-  void number(std::size_t value) {
-    char digits[24];
-    const char* end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-    text_.append(digits, static_cast<std::size_t>(end - digits));
-  }
-
-  void path(std::size_t g, std::size_t h) {
-    number(g + 1);
-    text_ += '.';
-    number(h + 1);
-  }
-
-  void flush() {
-    out_.write(text_.data(), static_cast<std::streamsize>(text_.size()));
-    text_.clear();
-  }
-
-  std::ostream& out_;
-  std::size_t left_;
-  std::uint64_t next_uuid_ = 1;
-  std::string text_;
 };
 
 }  // namespace
