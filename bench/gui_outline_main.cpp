@@ -89,11 +89,7 @@ std::vector<host::gui::control*> controls;
 
 LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   LRESULT result = 0;
-  if (message == WM_NOTIFY) {
-    for (host::gui::control* c : controls) {
-      if (c->on_notify(*reinterpret_cast<const NMHDR*>(lparam), result)) return result;
-    }
-  }
+  if (host::gui::offer_to_controls(controls, message, wparam, lparam, result)) return result;
   return DefWindowProcW(window, message, wparam, lparam);
 }
 

@@ -14,16 +14,7 @@ std::vector<host::gui::control*> shown_controls;
 
 LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   LRESULT result = 0;
-  if (message == WM_NOTIFY) {
-    for (host::gui::control* c : shown_controls) {
-      if (c->on_notify(*reinterpret_cast<const NMHDR*>(lparam), result)) return result;
-    }
-  }
-  if (message == WM_COMMAND) {
-    for (host::gui::control* c : shown_controls) {
-      if (c->on_command(reinterpret_cast<HWND>(lparam), HIWORD(wparam), result)) return result;
-    }
-  }
+  if (host::gui::offer_to_controls(shown_controls, message, wparam, lparam, result)) return result;
   return DefWindowProcW(window, message, wparam, lparam);
 }
 

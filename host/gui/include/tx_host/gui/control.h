@@ -8,9 +8,11 @@
 #pragma once
 
 #include <windows.h>
+// After windows.h, which it needs.
 #include <commctrl.h>
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -70,5 +72,10 @@ class control {
  protected:
   control() = default;
 };
+
+// Offers a parent window's WM_COMMAND or WM_NOTIFY to `controls` until one handles it: true
+// then, with `result` its answer. Any other message is no control's.
+bool offer_to_controls(std::span<control* const> controls, UINT message, WPARAM wparam,
+                       LPARAM lparam, LRESULT& result);
 
 }  // namespace tx::host::gui
