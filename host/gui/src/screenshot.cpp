@@ -1,17 +1,10 @@
 #include "screenshot.h"
 
+#include "gdiplus_session.h"
 #include "native.h"
 
-// The few GDI+ flat functions used, as gdiplus.dll exports them.
+// The GDI+ flat functions used beside starting it, as gdiplus.dll exports them.
 extern "C" {
-struct tx_gdiplus_startup_input {
-  UINT32 version;
-  void* debug_event_callback;
-  BOOL suppress_background_thread;
-  BOOL suppress_external_codecs;
-};
-int WINAPI GdiplusStartup(ULONG_PTR* token, const tx_gdiplus_startup_input* input, void* output);
-void WINAPI GdiplusShutdown(ULONG_PTR token);
 int WINAPI GdipCreateBitmapFromHBITMAP(HBITMAP bitmap, HPALETTE palette, void** image);
 int WINAPI GdipSaveImageToFile(void* image, const WCHAR* file, const CLSID* encoder,
                                const void* parameters);
@@ -24,24 +17,6 @@ namespace {
 // GDI+'s PNG encoder.
 constexpr CLSID kPngEncoder{
     0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
-
-class gdiplus_session {
- public:
-  gdiplus_session() {
-    const tx_gdiplus_startup_input input{1, nullptr, FALSE, FALSE};
-    ok_ = GdiplusStartup(&token_, &input, nullptr) == 0;
-  }
-  ~gdiplus_session() {
-    if (ok_) GdiplusShutdown(token_);
-  }
-  gdiplus_session(const gdiplus_session&) = delete;
-  gdiplus_session& operator=(const gdiplus_session&) = delete;
-  bool ok() const noexcept { return ok_; }
-
- private:
-  ULONG_PTR token_ = 0;
-  bool ok_ = false;
-};
 
 }  // namespace
 

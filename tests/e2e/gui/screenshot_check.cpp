@@ -6,15 +6,10 @@
 #include <cstdio>
 #include <string>
 
+#include "gdiplus_session.h"
+
+// The GDI+ flat functions used beside starting it, as gdiplus.dll exports them.
 extern "C" {
-struct tx_gdiplus_startup_input {
-  UINT32 version;
-  void* debug_event_callback;
-  BOOL suppress_background_thread;
-  BOOL suppress_external_codecs;
-};
-int WINAPI GdiplusStartup(ULONG_PTR* token, const tx_gdiplus_startup_input* input, void* output);
-void WINAPI GdiplusShutdown(ULONG_PTR token);
 int WINAPI GdipCreateBitmapFromFile(const WCHAR* file, void** bitmap);
 int WINAPI GdipGetImageWidth(void* image, UINT* width);
 int WINAPI GdipGetImageHeight(void* image, UINT* height);
@@ -67,9 +62,8 @@ int wmain(int argc, wchar_t** argv) {
     std::fputs("usage: tx_screenshot_check FOLDER\n", stderr);
     return 2;
   }
-  ULONG_PTR token = 0;
-  const tx_gdiplus_startup_input input{1, nullptr, FALSE, FALSE};
-  if (GdiplusStartup(&token, &input, nullptr) != 0) return 2;
+  const tx::host::gui::gdiplus_session session;
+  if (!session.ok()) return 2;
   const std::wstring folder = argv[1];
   WIN32_FIND_DATAW found{};
   HANDLE search = FindFirstFileW((folder + L"/*.png").c_str(), &found);
@@ -90,7 +84,6 @@ int wmain(int argc, wchar_t** argv) {
     } while (FindNextFileW(search, &found));
     FindClose(search);
   }
-  GdiplusShutdown(token);
   if (checked == 0) {
     std::puts("no screenshots were saved");
     return 1;
