@@ -68,4 +68,23 @@ void notify_parent(HWND control, UINT code) {
                reinterpret_cast<LPARAM>(control));
 }
 
+BITMAPINFO top_down_header(int width, int height) noexcept {
+  BITMAPINFO info{};
+  info.bmiHeader.biSize = sizeof(info.bmiHeader);
+  info.bmiHeader.biWidth = width;
+  info.bmiHeader.biHeight = -height;
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  info.bmiHeader.biCompression = BI_RGB;
+  return info;
+}
+
+HBITMAP top_down_bitmap(int width, int height, std::uint32_t** pixels) noexcept {
+  const BITMAPINFO info = top_down_header(width, height);
+  void* bits = nullptr;
+  HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  *pixels = static_cast<std::uint32_t*>(bits);
+  return bitmap;
+}
+
 }  // namespace tx::host::gui

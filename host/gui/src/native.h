@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -33,5 +34,10 @@ bool marked_visible(HWND window) noexcept;
 
 // A person's input as the control sends it to its parent: WM_COMMAND with `code`.
 void notify_parent(HWND control, UINT code);
+
+// The header of a top-down 32-bit bitmap (0x00RRGGBB pixels, top row first), and a DIB section
+// made from it whose pixels land in `pixels` (owned by the caller; null when it failed).
+BITMAPINFO top_down_header(int width, int height) noexcept;
+HBITMAP top_down_bitmap(int width, int height, std::uint32_t** pixels) noexcept;
 
 }  // namespace tx::host::gui

@@ -1,5 +1,6 @@
 #include "tool_picture.h"
 
+#include "native.h"
 #include "tx/visitors.h"
 
 namespace tx::host::gui {
@@ -18,21 +19,6 @@ constexpr interface_entry kInterfaces[]{{TX_THRICE_INTERLEAVED_BYTES_VISITOR_INT
 
 // Larger than any tool picture: a size beyond it is no picture.
 constexpr std::int32_t kMaxSide = 256;
-
-// A top-down 32-bit bitmap and its pixels.
-HBITMAP new_bitmap(std::int32_t width, std::int32_t height, std::uint32_t** pixels) {
-  BITMAPINFO info{};
-  info.bmiHeader.biSize = sizeof(info.bmiHeader);
-  info.bmiHeader.biWidth = width;
-  info.bmiHeader.biHeight = -height;
-  info.bmiHeader.biPlanes = 1;
-  info.bmiHeader.biBitCount = 32;
-  info.bmiHeader.biCompression = BI_RGB;
-  void* bits = nullptr;
-  HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-  *pixels = static_cast<std::uint32_t*>(bits);
-  return bitmap;
-}
 
 constexpr COLORREF as_colorref(std::uint32_t pixel) noexcept {
   return RGB((pixel >> 16) & 0xFF, (pixel >> 8) & 0xFF, pixel & 0xFF);
@@ -70,7 +56,7 @@ COLORREF tool_picture::corner() const noexcept {
 HBITMAP tool_picture::fitted(std::int32_t side, bool greyed) const {
   if (!size_ || pixels_.empty() || side <= 0) return nullptr;
   std::uint32_t* out = nullptr;
-  HBITMAP bitmap = new_bitmap(side, side, &out);
+  HBITMAP bitmap = top_down_bitmap(side, side, &out);
   if (bitmap == nullptr) return nullptr;
   const std::uint32_t clear = pixels_[0] & 0xFFFFFF;
   for (std::int32_t r = 0; r < side; ++r) {

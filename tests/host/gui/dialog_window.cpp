@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "native.h"
 #include "tx_host/dialog/toolbar_format.h"
 #include "tx_host/dialog/vocabulary.h"
 
@@ -130,20 +131,13 @@ std::vector<COLORREF> dialog_window::screenshot(const std::string& name, RECT& a
   const int height = area.bottom;
   HDC screen = GetDC(window);
   HDC copy = CreateCompatibleDC(screen);
-  BITMAPINFO info{};
-  info.bmiHeader.biSize = sizeof(info.bmiHeader);
-  info.bmiHeader.biWidth = width;
-  info.bmiHeader.biHeight = -height;
-  info.bmiHeader.biPlanes = 1;
-  info.bmiHeader.biBitCount = 32;
-  info.bmiHeader.biCompression = BI_RGB;
-  void* bits = nullptr;
-  HBITMAP bitmap = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  const BITMAPINFO info = host::gui::top_down_header(width, height);
+  std::uint32_t* source = nullptr;
+  HBITMAP bitmap = host::gui::top_down_bitmap(width, height, &source);
   HGDIOBJ old = SelectObject(copy, bitmap);
   BitBlt(copy, 0, 0, width, height, screen, 0, 0, SRCCOPY);
   GdiFlush();
   std::vector<COLORREF> pixels(static_cast<std::size_t>(width) * height);
-  const auto* source = static_cast<const std::uint32_t*>(bits);
   for (std::size_t i = 0; i < pixels.size(); ++i) {
     pixels[i] = RGB((source[i] >> 16) & 0xFF, (source[i] >> 8) & 0xFF, source[i] & 0xFF);
   }
