@@ -168,6 +168,34 @@ TEST(ProjectFileRoundTrip, ChangedCaptionsAreWhatIsReadBack) {
   for (const auto& [uuid, text] : changes) EXPECT_EQ(caption(find(uuid)), text) << uuid;
 }
 
+// Clearing the records lets go of the captions that renames replaced: every caption reads as it
+// did, a removed element's too, and the project saves to the same bytes.
+TEST(ProjectFileRoundTrip, ClearingTheRecordsKeepsEveryCaption) {
+  ASSERT_TRUE(tx_host_project_load(example("small.json").c_str()));
+  tx_entity* const project = tx_prj_safe_upcast(tx_prj_get_instance());
+  tx_entity* const highway = find(0xa03);
+  tx_entity_set_wcaption(find(0xa02), u"Дороги главные");
+  tx_entity_set_wcaption(highway, u"Трасса");
+  tx_entity_set_wcaption(find(0xa02), u"Дороги");
+  tx_entity_set_wcaption(project, u"Проект 𝔸");
+  tx_entity_set_wcaption(find(0xe02), u"");
+  ASSERT_TRUE(tx_host_project_remove(tx_uuid{0xa02}));  // with the highway beneath it
+  const std::vector<std::uint64_t> live = {0xa01, 0xa05, 0xa06, 0xb01, 0xc01, 0xc02, 0xd01, 0xe01};
+  std::vector<std::u16string> captions;
+  for (const std::uint64_t uuid : live) captions.push_back(caption(find(uuid)));
+  const std::filesystem::path folder = scratch_folder();
+  ASSERT_TRUE(tx_host_project_save(utf8(folder / "before.json").c_str()));
+
+  tx_host_project_clear_records();
+  for (std::size_t i = 0; i < live.size(); ++i) {
+    EXPECT_EQ(caption(find(live[i])), captions[i]) << live[i];
+  }
+  EXPECT_EQ(caption(highway), u"Трасса");
+  EXPECT_EQ(caption(project), u"Проект 𝔸");
+  ASSERT_TRUE(tx_host_project_save(utf8(folder / "after.json").c_str()));
+  EXPECT_EQ(read_file(folder / "after.json"), read_file(folder / "before.json"));
+}
+
 TEST(ProjectFileRoundTrip, AFailedSaveLeavesWhatWasThereAndNoFile) {
   const std::filesystem::path folder = scratch_folder();
   // A folder where the file should go: the temporary file is written, the rename fails.

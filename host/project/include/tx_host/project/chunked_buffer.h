@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace tx::host {
@@ -17,29 +18,25 @@ class chunked_buffer {
  public:
   // `chunk_items`: the items of one chunk; a request for more gets a chunk of its own size.
   explicit chunked_buffer(std::size_t chunk_items) noexcept : chunk_items_(chunk_items) {}
-  chunked_buffer(chunked_buffer&&) noexcept = default;
-  chunked_buffer& operator=(chunked_buffer&&) noexcept = default;
+  // Items are handed out by address: the buffer stays where it was made.
+  chunked_buffer(const chunked_buffer&) = delete;
+  chunked_buffer& operator=(const chunked_buffer&) = delete;
 
   // `count` items next to each other that never move: value-initialized, or as they were left
   // when given back.
   T* room(std::size_t count) {
-    if (left_ < count) {
+    if (chunks_.empty() || chunks_.back().size - chunks_.back().used < count) {
       const std::size_t size = std::max(count, chunk_items_);
-      chunks_.push_back(std::make_unique<T[]>(size));
-      free_ = chunks_.back().get();
-      left_ = size;
+      chunks_.push_back({std::make_unique<T[]>(size), size, 0});
     }
-    T* const start = free_;
-    free_ += count;
-    left_ -= count;
+    chunk& last = chunks_.back();
+    T* const start = last.items.get() + last.used;
+    last.used += count;
     return start;
   }
 
   // Gives back the last `count` items of the latest room(), which were not needed.
-  void give_back(std::size_t count) noexcept {
-    free_ -= count;
-    left_ += count;
-  }
+  void give_back(std::size_t count) noexcept { chunks_.back().used -= count; }
 
   // The items made from `first` to `last`, next to each other.
   template <typename It>
@@ -49,11 +46,28 @@ class chunked_buffer {
     return start;
   }
 
+  // Calls `visit` with every item handed out and not given back, in the order made.
+  template <typename Visit>
+  void for_each(Visit&& visit) {
+    for (const chunk& c : chunks_) {
+      for (std::size_t i = 0; i < c.used; ++i) visit(c.items[i]);
+    }
+  }
+
+  void swap(chunked_buffer& other) noexcept {
+    std::swap(chunk_items_, other.chunk_items_);
+    chunks_.swap(other.chunks_);
+  }
+
  private:
+  struct chunk {
+    std::unique_ptr<T[]> items;
+    std::size_t size;
+    std::size_t used;  // items handed out from the start
+  };
+
   std::size_t chunk_items_;
-  std::vector<std::unique_ptr<T[]>> chunks_;
-  T* free_ = nullptr;     // the first free item of the last chunk
-  std::size_t left_ = 0;  // free items from there
+  std::vector<chunk> chunks_;
 };
 
 }  // namespace tx::host

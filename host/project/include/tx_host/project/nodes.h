@@ -119,6 +119,12 @@ void for_each_collection(tx_prj& project, Visit&& visit) {
   for (const auto& collection : project.plugin_collections) visit(collection->scenes);
 }
 
+// Copies the caption of every entity of the project (removed elements' included) into fresh
+// caption memory and frees the old, which also held every caption a rename replaced. Whatever
+// pointed into the old memory (the record of caption writes) must have let go of it. Nothing
+// changes when memory runs out.
+void compact_captions(tx_prj& project) noexcept;
+
 template <typename Visit>
 void for_each_element(tx_prj& project, Visit&& visit) {
   for_each_collection(project, [&visit](std::vector<tx_scn*>& scenes) {

@@ -40,6 +40,8 @@ class project_model {
 
   update_bracket& bracket() noexcept { return bracket_; }
   const caption_log& caption_writes() const noexcept { return writes_; }
+  // Forgets the caption writes and the bracket's counts, and lets go of the captions that
+  // renames replaced, which only the records still pointed at.
   void clear_records() noexcept;
 
  private:
@@ -52,6 +54,7 @@ class project_model {
   entity_storage storage_;
   update_bracket bracket_;
   caption_log writes_;
+  bool captions_replaced_ = false;  // since the project was opened or its records cleared
   std::string error_;
 };
 
