@@ -15,6 +15,8 @@
 // run takes a fresh copy of the file (copying is untimed); a run that fails or leaves the file
 // as it was is reported as failed and never timed. The results are written to FILE for the
 // performance document (tx_scale_report --document ... --project-files=FILE).
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -179,7 +181,12 @@ class bench {
     row_runs measured;
     const fs::path err = folder_ / "stderr.txt";
     for (std::size_t run = 0; run < runs && measured.failed.empty(); ++run) {
-      if (copy) fs::copy_file(file, *copy, fs::copy_options::overwrite_existing);
+      if (copy) {
+        fs::copy_file(file, *copy, fs::copy_options::overwrite_existing);
+        // The copy and the runs before it are written out first, so that a run does not wait
+        // for the disk to take what it did not write.
+        ::sync();
+      }
       const child_run done = run_child(command, "/dev/null", err);
       if (!done.succeeded()) {
         measured.failed = !done.error.empty() ? done.error
@@ -283,7 +290,7 @@ int main(int argc, char** argv) {
   }
   run.warm_up_wine();
   const std::vector<std::size_t> sizes = numbers(s.option("sizes"), {10'000, 100'000, 1'000'000});
-  const std::vector<std::size_t> runs = numbers(s.option("runs"), {5, 3, 2});
+  const std::vector<std::size_t> runs = numbers(s.option("runs"), {5, 3, 3});
   bool all_made = true;
   for (std::size_t i = 0; i < sizes.size(); ++i) {
     all_made &=
