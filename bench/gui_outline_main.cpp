@@ -36,6 +36,7 @@
 #include "tx_host/dialog/elements.h"
 #include "tx_host/dialog/outline_reader.h"
 #include "tx_host/dialog/toolbar_reader.h"
+#include "tx_host/gui/window_surface.h"
 #include "tx_host/msgs.h"
 #include "tx_host/project.h"
 #include "tx_host/services/interface_object.h"
@@ -86,12 +87,6 @@ void pump(HWND window) {
 }
 
 std::vector<host::gui::control*> controls;
-
-LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-  LRESULT result = 0;
-  if (host::gui::offer_to_controls(controls, message, wparam, lparam, result)) return result;
-  return DefWindowProcW(window, message, wparam, lparam);
-}
 
 // Asks what reading the rows asks of each shown row (the row, its key, whether it is selected
 // and expanded), keeping nothing: the plug-in's share of a rebuild.
@@ -145,17 +140,8 @@ int run(std::size_t elements, scale_results& results) {
   parts found;
   host::dialog::walk(widget->layout(), found, host::dialog::walk_scope::shown);
 
-  INITCOMMONCONTROLSEX common{sizeof(common), ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
-  InitCommonControlsEx(&common);
-  WNDCLASSEXW type{};
-  type.cbSize = sizeof(type);
-  type.lpfnWndProc = &window_procedure;
-  type.hInstance = GetModuleHandleW(nullptr);
-  type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-  type.lpszClassName = L"tx_bench_window";
-  RegisterClassExW(&type);
-  HWND window = CreateWindowExW(0, type.lpszClassName, L"bench", WS_OVERLAPPEDWINDOW, 0, 0, 800,
-                                700, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+  host::gui::start_common_controls();
+  HWND window = host::gui::make_controls_window(L"bench", 800, 700, controls);
   ShowWindow(window, SW_SHOW);
   pump(window);
   host::gui::metrics m;

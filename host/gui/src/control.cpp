@@ -1,7 +1,14 @@
 #include "tx_host/gui/control.h"
 
-namespace tx::host::gui {
+#include <span>
 
+namespace tx::host::gui {
+namespace {
+
+constexpr wchar_t kControlsWindowClass[] = L"tx_controls_window";
+
+// Offers a WM_COMMAND or WM_NOTIFY to `controls` until one handles it: true then, with `result`
+// its answer. Any other message is no control's.
 bool offer_to_controls(std::span<control* const> controls, UINT message, WPARAM wparam,
                        LPARAM lparam, LRESULT& result) {
   for (control* c : controls) {
@@ -14,6 +21,41 @@ bool offer_to_controls(std::span<control* const> controls, UINT message, WPARAM 
     }
   }
   return false;
+}
+
+// The controls come with the window's creation and are kept in its user data.
+LRESULT CALLBACK controls_window_procedure(HWND window, UINT message, WPARAM wparam,
+                                           LPARAM lparam) {
+  if (message == WM_NCCREATE) {
+    const auto* create = reinterpret_cast<const CREATESTRUCTW*>(lparam);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(create->lpCreateParams));
+  }
+  const auto* controls =
+      reinterpret_cast<const std::vector<control*>*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  LRESULT result = 0;
+  if (controls != nullptr && offer_to_controls(*controls, message, wparam, lparam, result)) {
+    return result;
+  }
+  return DefWindowProcW(window, message, wparam, lparam);
+}
+
+}  // namespace
+
+HWND make_controls_window(const wchar_t* title, int width, int height,
+                          const std::vector<control*>& controls) {
+  static const ATOM registered = [] {
+    WNDCLASSEXW type{};
+    type.cbSize = sizeof(type);
+    type.lpfnWndProc = &controls_window_procedure;
+    type.hInstance = GetModuleHandleW(nullptr);
+    type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    type.lpszClassName = kControlsWindowClass;
+    return RegisterClassExW(&type);
+  }();
+  if (registered == 0) return nullptr;
+  return CreateWindowExW(0, kControlsWindowClass, title, WS_OVERLAPPEDWINDOW, 0, 0, width, height,
+                         nullptr, nullptr, GetModuleHandleW(nullptr),
+                         const_cast<std::vector<control*>*>(&controls));
 }
 
 }  // namespace tx::host::gui

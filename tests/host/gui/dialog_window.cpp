@@ -6,20 +6,13 @@
 #include "native.h"
 #include "tx_host/dialog/toolbar_format.h"
 #include "tx_host/dialog/vocabulary.h"
+#include "tx_host/gui/window_surface.h"
 
 namespace tx::test {
 namespace {
 
 // The controls of the window being tested, to which it hands its notifications.
 std::vector<host::gui::control*> shown_controls;
-
-LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-  LRESULT result = 0;
-  if (host::gui::offer_to_controls(shown_controls, message, wparam, lparam, result)) return result;
-  return DefWindowProcW(window, message, wparam, lparam);
-}
-
-constexpr wchar_t kWindowClass[] = L"tx_test_dialog_window";
 
 }  // namespace
 
@@ -35,18 +28,9 @@ void dialog_window::SetUp() {
   toolbar = found.toolbar;
   ASSERT_TRUE(host::present(outline) && host::present(toolbar));
 
-  INITCOMMONCONTROLSEX common{sizeof(common), ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
-  InitCommonControlsEx(&common);
-  WNDCLASSEXW type{};
-  type.cbSize = sizeof(type);
-  type.lpfnWndProc = &window_procedure;
-  type.hInstance = GetModuleHandleW(nullptr);
-  type.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-  type.lpszClassName = kWindowClass;
-  RegisterClassExW(&type);
-  window =
-      CreateWindowExW(0, kWindowClass, L"Переименование элементов проекта", WS_OVERLAPPEDWINDOW, 0,
-                      0, 640, 600, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+  host::gui::start_common_controls();
+  window = host::gui::make_controls_window(L"Переименование элементов проекта", 640, 600,
+                                           shown_controls);
   // Wine without an X server has no window station to show windows on.
   if (window == nullptr) GTEST_SKIP() << "no display: run under an X server (xvfb-run -a)";
   NONCLIENTMETRICSW system{};

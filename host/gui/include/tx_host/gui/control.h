@@ -12,7 +12,6 @@
 #include <commctrl.h>
 
 #include <cstdint>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -73,9 +72,11 @@ class control {
   control() = default;
 };
 
-// Offers a parent window's WM_COMMAND or WM_NOTIFY to `controls` until one handles it: true
-// then, with `result` its answer. Any other message is no control's.
-bool offer_to_controls(std::span<control* const> controls, UINT message, WPARAM wparam,
-                       LPARAM lparam, LRESULT& result);
+// A plain top-level window of the dialog's colour, `width` × `height` and not yet shown, that
+// offers its WM_COMMAND and WM_NOTIFY to the controls in `controls` (which must outlive it): where
+// the window benchmark and the window tests place controls of their own. Null when no window can
+// be made (no display).
+HWND make_controls_window(const wchar_t* title, int width, int height,
+                          const std::vector<control*>& controls);
 
 }  // namespace tx::host::gui
