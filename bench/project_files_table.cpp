@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "grouped_number.h"
 #include "project_files_keys.h"
 
 namespace tx::bench {
@@ -43,17 +44,6 @@ constexpr std::array<row, 9> rows{{
     {"peak memory, open and list", "list", "peak_bytes", unit::megabytes, goal_kind::none, 0,
      false},
 }};
-
-// 1234567.8 → «1,234,568».
-std::string grouped(double value) {
-  const std::string digits = std::to_string(static_cast<long long>(value + 0.5));
-  std::string text;
-  for (std::size_t i = 0; i < digits.size(); ++i) {
-    if (i > 0 && (digits.size() - i) % 3 == 0) text += ',';
-    text += digits[i];
-  }
-  return text;
-}
 
 std::string shown_text(double value, unit u) {
   char text[32];

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <optional>
 
+#include "grouped_number.h"
 #include "window_steps.h"
 
 namespace tx::bench {
@@ -20,17 +21,6 @@ std::string goal_text(const window_step& step) {
   char text[48];
   std::snprintf(text, sizeof text, "%s ≤ %.0f ms",
                 step.goal == window_goal::total ? "whole step" : "host's own", step.goal_ms);
-  return text;
-}
-
-// 1000000 → «1,000,000».
-std::string grouped(double value) {
-  const std::string digits = std::to_string(static_cast<long long>(value));
-  std::string text;
-  for (std::size_t i = 0; i < digits.size(); ++i) {
-    if (i > 0 && (digits.size() - i) % 3 == 0 && digits[i - 1] != '-') text += ',';
-    text += digits[i];
-  }
   return text;
 }
 
