@@ -1,6 +1,8 @@
 #include "project_tree.h"
 
-#include <initializer_list>
+#include <array>
+#include <span>
+#include <string>
 #include <string_view>
 
 #include "listing_limit.h"
@@ -92,16 +94,17 @@ class tree_printer {
   tree_printer(std::FILE* out, std::size_t listed) : stream_(out), listed_(listed) {}
 
   void print(tx_prj* project) {
-    line(0, {"project", caption_of(tx_prj_safe_upcast(project), &tx_entity_get_wcaption),
-             tx_options_get_invert_layers() ? "(invert_layers: yes)" : "(invert_layers: no)"});
+    element(0, [&] {
+      return line_parts<3>{
+          "project", caption_of(tx_prj_safe_upcast(project), &tx_entity_get_wcaption),
+          tx_options_get_invert_layers() ? "(invert_layers: yes)" : "(invert_layers: no)"};
+    });
     scenes_2d("scenes_2d", "", tx_prj_get_scns_2d_ptr(project));
     tx_scns_3d* const scenes_3d = tx_prj_get_scns_3d_ptr(project);
-    if (shown()) {
-      line(0,
-           {"scenes_3d", caption_of(tx_scns_3d_safe_upcast(scenes_3d), &tx_entities_get_wcaption)});
-    } else {
-      ++hidden_;
-    }
+    element(0, [&] {
+      return line_parts<2>{
+          "scenes_3d", caption_of(tx_scns_3d_safe_upcast(scenes_3d), &tx_entities_get_wcaption)};
+    });
     for (uint32_t i = 0; i < tx_scns_3d_get_size(scenes_3d); ++i) {
       scene(tx_scns_3d_get(scenes_3d, i));
     }
@@ -116,15 +119,27 @@ class tree_printer {
   }
 
  private:
-  // Past the limit the walk only counts what it leaves out, without asking for captions.
-  bool shown() const noexcept { return printed_ < listed_; }
+  template <std::size_t N>
+  using line_parts = std::array<std::string, N>;
+
+  // An element's line, made by `make` (its parts) only while the listing is shown: past the
+  // limit the walk only counts what it leaves out, without asking for captions.
+  template <typename Make>
+  void element(std::size_t level, Make make) {
+    if (printed_ >= listed_) {
+      ++hidden_;
+      return;
+    }
+    const auto made = make();
+    line(level, made);
+  }
 
   // The parts of one line, separated by spaces, indented two spaces a level.
   // Empty parts are left out.
-  void line(std::size_t level, std::initializer_list<std::string_view> parts) {
+  void line(std::size_t level, std::span<const std::string> parts) {
     out_.append(2 * level, ' ');
     bool first = true;
-    for (const std::string_view part : parts) {
+    for (const std::string& part : parts) {
       if (part.empty()) continue;
       if (!first) out_ += ' ';
       out_ += part;
@@ -143,12 +158,11 @@ class tree_printer {
 
   // A 2D collection: its kind, its meta id (empty for the project's own) and its caption.
   void scenes_2d(std::string_view kind, std::string_view meta_id, tx_scns_2d* collection) {
-    if (shown()) {
-      line(0, {kind, meta_id,
-               caption_of(tx_scns_2d_safe_upcast(collection), &tx_entities_get_wcaption)});
-    } else {
-      ++hidden_;
-    }
+    element(0, [&] {
+      return line_parts<3>{
+          std::string(kind), std::string(meta_id),
+          caption_of(tx_scns_2d_safe_upcast(collection), &tx_entities_get_wcaption)};
+    });
     for (uint32_t i = 0; i < tx_scns_2d_get_size(collection); ++i) {
       scene(tx_scns_2d_get(collection, i));
     }
@@ -156,26 +170,23 @@ class tree_printer {
 
   void scene(tx_scn* scene) {
     tx_lr_group* const root = tx_scn_get_lr_group_ptr(scene);
-    if (shown()) {
-      line(1, {"scene", uuid_of(tx_scn_safe_upcast(scene)), caption_of(scene, &tx_scn_get_wcaption),
-               root == nullptr ? "(no layer group)" : ""});
-    } else {
-      ++hidden_;
-    }
+    element(1, [&] {
+      return line_parts<4>{"scene", uuid_of(tx_scn_safe_upcast(scene)),
+                           caption_of(scene, &tx_scn_get_wcaption),
+                           root == nullptr ? "(no layer group)" : ""};
+    });
     if (root != nullptr) children(root, 2);
   }
 
   void children(tx_lr_group* group, std::size_t level) {
     for (uint32_t i = 0; i < tx_lr_group_get_count_child(group); ++i) {
       tx_lr_group* const child = tx_lr_group_get_child_by_index(group, i);
-      if (shown()) {
-        line(level,
-             {tx_lr_group_is_group(child) ? "group" : "layer",
-              uuid_of(tx_lr_group_safe_upcast(child)), caption_of(child, &tx_lr_group_get_wcaption),
-              tx_lr_group_get_expanded(child) ? "expanded" : "collapsed"});
-      } else {
-        ++hidden_;
-      }
+      element(level, [&] {
+        return line_parts<4>{tx_lr_group_is_group(child) ? "group" : "layer",
+                             uuid_of(tx_lr_group_safe_upcast(child)),
+                             caption_of(child, &tx_lr_group_get_wcaption),
+                             tx_lr_group_get_expanded(child) ? "expanded" : "collapsed"};
+      });
       children(child, level + 1);
     }
   }
