@@ -93,7 +93,6 @@ bool project_model::save_or_throw(std::string_view path) {
 void project_model::close() noexcept {
   storage_.clear();
   writes_.clear();
-  captions_replaced_ = false;
   project_.reset();
   bracket_ = update_bracket();
   writes_.clear();
@@ -129,7 +128,6 @@ void project_model::set_caption(tx_entity& entity, std::u16string_view caption) 
   const std::u16string_view kept = project_->memory.keep_caption(caption);
   writes_.record(entity.uuid, entity.caption.data(), kept.data(), bracket_.depth());
   entity.caption = kept;
-  captions_replaced_ = true;
   bracket_.notify();
 }
 
@@ -138,11 +136,11 @@ void project_model::set_invert_layers(bool on) noexcept {
 }
 
 void project_model::clear_records() noexcept {
+  // Every replaced caption was recorded: once no record points at one, their memory is let go.
+  const bool replaced = writes_.size() > 0;
   writes_.clear();
   bracket_.clear_counts();
-  // No record points at a replaced caption any more: the memory they took is let go.
-  if (project_ && captions_replaced_) compact_captions(*project_);
-  captions_replaced_ = false;
+  if (project_ && replaced) compact_captions(*project_);
 }
 
 }  // namespace tx::host

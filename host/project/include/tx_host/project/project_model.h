@@ -54,7 +54,6 @@ class project_model {
   entity_storage storage_;
   update_bracket bracket_;
   caption_log writes_;
-  bool captions_replaced_ = false;  // since the project was opened or its records cleared
   std::string error_;
 };
 
