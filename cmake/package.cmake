@@ -127,8 +127,18 @@ configure_file("${SOURCE_DIR}/release/README.txt.in" "${STAGE}/README.txt.lf" @O
 copy_text("${STAGE}/README.txt.lf" README.txt)
 file(REMOVE "${STAGE}/README.txt.lf")
 copy("${SOURCE_DIR}/CHANGELOG.md" CHANGELOG.md)
-copy_tree("${SOURCE_DIR}/docs/guide" docs/guide "*.md" "*.png")
-foreach(page IN ITEMS host-guide.md script-format.md project-format.md)
+# The guides with their pictures, and the scripts of their examples, which try\txhost.exe runs.
+file(GLOB guides RELATIVE "${SOURCE_DIR}/docs/guide" "${SOURCE_DIR}/docs/guide/*.md")
+foreach(guide IN LISTS guides)
+  copy("${SOURCE_DIR}/docs/guide/${guide}" docs/guide/${guide})
+endforeach()
+copy_tree("${SOURCE_DIR}/docs/guide/images" docs/guide/images "*.png")
+file(GLOB scripts RELATIVE "${SOURCE_DIR}/docs/guide/examples"
+  "${SOURCE_DIR}/docs/guide/examples/*.txt")
+foreach(script IN LISTS scripts)
+  copy_text("${SOURCE_DIR}/docs/guide/examples/${script}" docs/guide/examples/${script})
+endforeach()
+foreach(page IN ITEMS host-guide.md script-format.md project-format.md performance.md)
   copy("${SOURCE_DIR}/docs/${page}" docs/${page})
 endforeach()
 
