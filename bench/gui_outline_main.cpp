@@ -33,8 +33,10 @@
 #include "tx/toolkit/outline.h"
 #include "tx/toolkit/toolbar.h"
 #include "tx_host/basic.h"
+#include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/elements.h"
 #include "tx_host/dialog/outline_reader.h"
+#include "tx_host/dialog/script_targets.h"
 #include "tx_host/dialog/toolbar_reader.h"
 #include "tx_host/gui/window_surface.h"
 #include "tx_host/msgs.h"
@@ -164,8 +166,13 @@ int run(std::size_t elements, scale_results& results) {
   refreshing_view tools_view(tools);
   host::gui::view_toolbar(found.toolbar, tools_view.pair());
   const auto click = [&](const char* tool) {
-    const std::string error = tools.click(tool);
-    if (!error.empty()) std::fprintf(stderr, "tx_gui_outline_bench: %s\n", error.c_str());
+    const host::dialog::lookup<std::size_t> named = host::dialog::find_tool(tools.tools(), tool);
+    if (named) {
+      tools.click(*named);
+    } else {
+      std::fprintf(stderr, "tx_gui_outline_bench: %s\n",
+                   host::dialog::message(named.refused()).c_str());
+    }
     pump(window);
   };
   std::printf("  rows shown at first: %zu\n", rows->shown_rows());
@@ -179,7 +186,7 @@ int run(std::size_t elements, scale_results& results) {
   line("expand every row (the Expand tool: plug-in, rebuild, drawing)", expanded_all);
   record(results, "expand_all", 1, expanded_all);
   std::printf("  rows shown: %zu (flat index %zu bytes)\n", rows->shown_rows(),
-              rows->shown_rows() * sizeof(host::gui::visible_row));
+              rows->shown_rows() * sizeof(host::window_logic::visible_row));
   line("  of which the host: rebuilding the rows and drawing them",
        median_ms(
            runs, [] {},

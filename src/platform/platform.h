@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tx::platform {
 
@@ -77,17 +78,26 @@ class page_buffer {
   page_buffer() = default;
   // Empty when the system refuses the allocation.
   explicit page_buffer(std::size_t size) noexcept;
-  page_buffer(page_buffer&& other) noexcept;
-  page_buffer& operator=(page_buffer&& other) noexcept;
+  page_buffer(page_buffer&& other) noexcept
+      : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)) {}
+  page_buffer& operator=(page_buffer&& other) noexcept {
+    if (this != &other) {
+      release();
+      data_ = std::exchange(other.data_, nullptr);
+      size_ = std::exchange(other.size_, 0);
+    }
+    return *this;
+  }
   page_buffer(const page_buffer&) = delete;
   page_buffer& operator=(const page_buffer&) = delete;
-  ~page_buffer();
+  ~page_buffer() { release(); }
 
   std::uint8_t* data() const noexcept { return data_; }
   std::size_t size() const noexcept { return size_; }
   explicit operator bool() const noexcept { return data_ != nullptr; }
 
  private:
+  // Gives the pages back to the system (each system's own call) and empties the buffer.
   void release() noexcept;
 
   std::uint8_t* data_ = nullptr;

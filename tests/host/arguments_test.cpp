@@ -1,6 +1,6 @@
 // txhost's command line: --list PLUGIN, --project FILE and PROJECT --plugin PLUGIN
 // [--script FILE], what each accepts and what makes no sense.
-#include "arguments.h"
+#include "tx_host/txhost/arguments.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,8 @@
 # Runs a command and checks its exit status and what it printed.
-#   cmake -DEXPECT_EXIT=N [-DEXPECT_STDOUT=regex] [-DEXPECT_STDERR=regex]
+#   cmake -DEXPECT_EXIT=N [-DEXPECT_STDOUT=regex] [-DEXPECT_STDERR=regex] [-DINPUT=file]
 #         -P run_and_check.cmake -- COMMAND [ARGUMENTS...]
-# The regular expressions are CMake's; an unset one is not checked.
+# The regular expressions are CMake's; an unset one is not checked. INPUT is the command's
+# standard input (by default it has none).
 set(command "")
 set(in_command FALSE)
 math(EXPR last "${CMAKE_ARGC} - 1")
@@ -16,7 +17,12 @@ if(NOT command)
   message(FATAL_ERROR "run_and_check: no command after --")
 endif()
 
-execute_process(COMMAND ${command} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+set(input "")
+if(DEFINED INPUT)
+  set(input INPUT_FILE "${INPUT}")
+endif()
+execute_process(COMMAND ${command} ${input}
+  RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
 
 set(problems "")
 if(NOT status STREQUAL "${EXPECT_EXIT}")

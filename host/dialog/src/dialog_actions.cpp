@@ -2,6 +2,10 @@
 
 namespace tx::host::dialog {
 
+command_outcome failure(std::string error) { return {std::nullopt, {}, std::move(error)}; }
+
+command_outcome failure(const refusal& why) { return failure(message(why)); }
+
 command_outcome dispatch(dialog_actions& actions, const command& c) {
   switch (c.what) {
     case verb::print:

@@ -1,7 +1,6 @@
 #include "tx_host/dialog/dialog_driver.h"
 
 #include <algorithm>
-#include <charconv>
 #include <vector>
 
 #include "tx/toolkit/button_box.h"
@@ -9,31 +8,17 @@
 #include "tx/toolkit/outline.h"
 #include "tx/toolkit/toolbar.h"
 #include "tx_host/dialog/button_reader.h"
+#include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/elements.h"
+#include "tx_host/dialog/limits.h"
 #include "tx_host/dialog/outline_reader.h"
+#include "tx_host/dialog/script_targets.h"
 #include "tx_host/dialog/script_values.h"
 #include "tx_host/dialog/text_renderer.h"
 #include "tx_host/dialog/toolbar_reader.h"
 
 namespace tx::host::dialog {
 namespace {
-
-command_outcome failure(std::string error) { return {std::nullopt, {}, std::move(error)}; }
-command_outcome done() { return {}; }
-
-// The index of the drop-down item captioned `value`, or else numbered `value` (1-based).
-std::optional<std::int32_t> dropdown_item(tx_custom_pointer dropdown, std::string_view value) {
-  using table = tx_dropdown_interface_3;
-  const std::int32_t count = call(dropdown, &table::item_count);
-  for (std::int32_t i = 0; i < count; ++i) {
-    const std::optional<std::string> text =
-        collect_text([&](tx_custom_pointer v) { return call(dropdown, &table::item_text, i, v); });
-    if (text && *text == value) return i;
-  }
-  const std::optional<std::size_t> n = position(value);
-  if (n && *n <= static_cast<std::size_t>(count)) return static_cast<std::int32_t>(*n - 1);
-  return std::nullopt;
-}
 
 // What the dialog shows that commands act on, found by one walk.
 class dialog_parts final : public element_listener {
@@ -82,55 +67,65 @@ bool dialog_driver::press_close_box() const noexcept {
   return call(buttons_, &tx_button_box_interface_2::press, -1);
 }
 
+namespace {
+
+std::vector<std::string> dropdown_items(tx_custom_pointer dropdown) {
+  using table = tx_dropdown_interface_3;
+  const std::int32_t count = bounded_count(call(dropdown, &table::item_count));
+  std::vector<std::string> items;
+  for (std::int32_t i = 0; i < count; ++i) {
+    items.push_back(collect_text([&](tx_custom_pointer v) {
+                      return call(dropdown, &table::item_text, i, v);
+                    }).value_or(""));
+  }
+  return items;
+}
+
+}  // namespace
+
 command_outcome dialog_driver::choose_operation(const std::string& operation) {
   const dialog_parts parts(docker_);
-  if (!parts.selector) return failure("the dialog has no operation selector");
-  if (!element_enabled(*parts.selector)) return failure("the operation selector is disabled");
-  const std::optional<std::int32_t> item = dropdown_item(parts.selector->pair, operation);
-  if (!item) return failure("no operation " + quoted(operation));
-  call(parts.selector->pair, &tx_dropdown_interface_3::select, *item);
+  std::optional<list_facts> selector;
+  if (parts.selector) {
+    selector = list_facts{dropdown_items(parts.selector->pair), element_enabled(*parts.selector)};
+  }
+  const lookup<std::size_t> item = find_operation(selector, operation);
+  if (!item) return failure(item.refused());
+  call(parts.selector->pair, &tx_dropdown_interface_3::select, static_cast<std::int32_t>(*item));
   return done();
 }
 
 command_outcome dialog_driver::set_field(const std::string& field, const std::string& value) {
   const dialog_parts parts(docker_);
-  const element* target = nullptr;
-  if (const std::optional<std::size_t> n = position(field)) {
-    if (*n > parts.fields.size()) return failure("no field " + std::to_string(*n));
-    target = &parts.fields[*n - 1];
-  } else {
-    for (const element& e : parts.fields) {
-      if (bare(field_caption(e).value_or("")) != bare(field)) continue;
-      if (target != nullptr) {
-        return failure("more than one field is captioned " + quoted(field) + ": give its number");
-      }
-      target = &e;
-    }
-    if (target == nullptr) return failure("no field " + quoted(field));
+  std::vector<field_facts> facts;
+  for (const element& e : parts.fields) {
+    facts.push_back({field_caption(e).value_or(""), element_enabled(e)});
   }
-  if (!element_enabled(*target)) return failure("field " + quoted(field) + " is disabled");
-  switch (target->kind) {
+  const lookup<std::size_t> found = find_field(facts, field);
+  if (!found) return failure(found.refused());
+  const element& target = parts.fields[*found];
+  switch (target.kind) {
     case element_kind::checkbox: {
-      const std::optional<bool> on = on_off(value);
-      if (!on) return failure(quoted(value) + " is neither on nor off");
-      call(target->pair, &tx_checkbox_interface_2::set_checked, *on);
+      const lookup<bool> on = switch_value(value);
+      if (!on) return failure(on.refused());
+      call(target.pair, &tx_checkbox_interface_2::set_checked, *on);
       break;
     }
     case element_kind::dropdown: {
-      const std::optional<std::int32_t> item = dropdown_item(target->pair, value);
-      if (!item) return failure("field " + quoted(field) + " has no item " + quoted(value));
-      call(target->pair, &tx_dropdown_interface_3::select, *item);
+      const lookup<std::size_t> item = item_value(dropdown_items(target.pair), field, value);
+      if (!item) return failure(item.refused());
+      call(target.pair, &tx_dropdown_interface_3::select, static_cast<std::int32_t>(*item));
       break;
     }
     case element_kind::integer_input: {
-      const std::optional<std::int32_t> n = whole_number(value);
-      if (!n) return failure(quoted(value) + " is not a whole number");
-      call(target->pair, &tx_integer_input_interface_6::set_value, *n);
+      const lookup<std::int32_t> n = number_value(value);
+      if (!n) return failure(n.refused());
+      call(target.pair, &tx_integer_input_interface_6::set_value, *n);
       break;
     }
     default: {
       const std::u16string text = to_utf16(value);
-      call(target->pair, &tx_assisted_input_interface_3::set_text, text.c_str());
+      call(target.pair, &tx_assisted_input_interface_3::set_text, text.c_str());
       break;
     }
   }
@@ -139,13 +134,24 @@ command_outcome dialog_driver::set_field(const std::string& field, const std::st
 
 command_outcome dialog_driver::row_command(const command& c) {
   const dialog_parts parts(docker_);
-  if (!present(parts.outline)) return failure("the dialog has no outline");
+  if (!present(parts.outline)) return failure({refusal_reason::no_outline});
   return failure(act_on_row(parts.outline, c.what, c.arguments.at(0),
                             c.arguments.size() > 1 ? c.arguments[1] : std::string()));
 }
 
 command_outcome dialog_driver::click(const std::string& tool) {
-  return failure(click_tool(dialog_parts(docker_).toolbars, tool));
+  std::vector<tx_custom_pointer> pairs;
+  std::vector<tool_values> tools;
+  for (const tx_custom_pointer toolbar : dialog_parts(docker_).toolbars) {
+    for (const tool_entry& t : tools_of(toolbar)) {
+      pairs.push_back(t.tool);
+      tools.push_back(values_of(t));
+    }
+  }
+  const lookup<std::size_t> found = find_tool(tools, tool);
+  if (!found) return failure(found.refused());
+  call(pairs[*found], &tx_action_tool_interface_0::invoke);
+  return done();
 }
 
 command_outcome dialog_driver::press(const command& c) {
@@ -155,28 +161,12 @@ command_outcome dialog_driver::press(const command& c) {
   }
   std::vector<button_entry> shown = buttons_of(buttons_);
   std::erase_if(shown, [](const button_entry& b) { return !b.shown; });
-  const button_entry* target = nullptr;
-  if (c.what == verb::press) {
-    const std::string& wanted = c.arguments.at(0);
-    for (const button_entry& b : shown) {
-      if (b.caption == wanted && target == nullptr) target = &b;
-    }
-    const std::optional<std::size_t> n = position(wanted);
-    if (target == nullptr && n && *n <= shown.size()) target = &shown[*n - 1];
-    if (target == nullptr) return failure("no button " + quoted(wanted));
-  } else {
-    const button_role role = c.what == verb::accept ? button_role::accept : button_role::close;
-    for (const button_entry& b : shown) {
-      if (role_of(b.caption, language_) == role && target == nullptr) target = &b;
-    }
-    if (target == nullptr) {
-      return failure(role == button_role::accept ? "the dialog has no accepting button"
-                                                 : "the dialog has no closing button");
-    }
-  }
-  if (call(buttons_, &tx_button_box_interface_2::press, target->index)) {
-    return {target->index, {}, {}};
-  }
+  std::vector<std::string> captions;
+  for (const button_entry& b : shown) captions.push_back(b.caption);
+  const lookup<std::size_t> found = find_button(captions, c, language_);
+  if (!found) return failure(found.refused());
+  const std::int32_t index = shown[*found].index;
+  if (call(buttons_, &tx_button_box_interface_2::press, index)) return {index, {}, {}};
   return done();
 }
 
@@ -191,9 +181,9 @@ std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view ad
     case verb::tick:
     case verb::untick: {
       const bool on = what == verb::tick;
-      if (!present(reader.checks())) return "the rows have no check boxes";
+      if (!present(reader.checks())) return message({refusal_reason::no_check_boxes});
       if (!reader.check_enabled(row)) {
-        return "the box of row " + quoted(address) + " cannot be changed";
+        return message({refusal_reason::box_fixed, std::string(address)});
       }
       if (reader.checked(row) != on) {
         call(reader.checks(), &tx_outline_checks_interface_1::set_checked, row, on);
@@ -210,7 +200,7 @@ std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view ad
     case verb::collapse: {
       const bool on = what == verb::expand;
       if (reader.row_count(row) == 0) {
-        return "row " + quoted(address) + " has no rows under it";
+        return message({refusal_reason::no_rows_under, std::string(address)});
       }
       if (reader.expanded(row) != on) call(outline, &table::set_expanded, row, on);
       break;
@@ -225,72 +215,10 @@ std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view ad
              typed.c_str());
         return {};
       }
-      return "row " + quoted(address) + " has no cell that can be edited";
+      return message({refusal_reason::no_editable_cell, std::string(address)});
     }
   }
   return {};
-}
-
-std::string click_tool(const std::vector<tx_custom_pointer>& toolbars, std::string_view tool) {
-  std::vector<tool_entry> tools;
-  for (const tx_custom_pointer toolbar : toolbars) {
-    for (tool_entry& t : tools_of(toolbar)) tools.push_back(std::move(t));
-  }
-  auto found = std::find_if(tools.begin(), tools.end(),
-                            [&tool](const tool_entry& t) { return t.id == tool; });
-  if (found == tools.end()) {
-    found = std::find_if(tools.begin(), tools.end(),
-                         [&tool](const tool_entry& t) { return tool_caption(t.tool) == tool; });
-  }
-  if (found == tools.end()) return "no tool " + quoted(tool);
-  if (!tool_visible(found->tool)) return "tool " + quoted(tool) + " is hidden";
-  if (!tool_enabled(found->tool)) return "tool " + quoted(tool) + " is disabled";
-  call(found->tool, &tx_action_tool_interface_0::invoke);
-  return {};
-}
-
-std::string quoted(std::string_view text) {
-  // Built by appending: mingw's g++ 12 at -O3 warns falsely on a literal + std::string here.
-  std::string out(1, '"');
-  out.append(text).push_back('"');
-  return out;
-}
-
-std::optional<std::int32_t> whole_number(std::string_view text) {
-  std::int32_t n = 0;
-  const char* first = text.data();
-  const char* last = text.data() + text.size();
-  if (first != last && *first == '+') ++first;
-  const auto [end, error] = std::from_chars(first, last, n);
-  if (first == last || error != std::errc() || end != last) return std::nullopt;
-  return n;
-}
-
-std::optional<std::size_t> position(std::string_view text) {
-  if (text.empty() ||
-      !std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; })) {
-    return std::nullopt;
-  }
-  const std::optional<std::int32_t> n = whole_number(text);
-  if (!n || *n < 1) return std::nullopt;
-  return static_cast<std::size_t>(*n);
-}
-
-std::string_view bare(std::string_view caption) noexcept {
-  while (!caption.empty() && (caption.back() == ':' || caption.back() == ' ')) {
-    caption.remove_suffix(1);
-  }
-  return caption;
-}
-
-std::optional<bool> on_off(std::string_view value) {
-  for (const std::string_view on : {"on", "yes", "true", "1"}) {
-    if (value == on) return true;
-  }
-  for (const std::string_view off : {"off", "no", "false", "0"}) {
-    if (value == off) return false;
-  }
-  return std::nullopt;
 }
 
 }  // namespace tx::host::dialog

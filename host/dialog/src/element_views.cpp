@@ -7,6 +7,7 @@
 #include "tx/toolkit/layout.h"
 #include "tx/toolkit/outline.h"
 #include "tx/toolkit/toolbar.h"
+#include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/elements.h"
 #include "tx_host/dialog/outline_reader.h"
 #include "tx_host/dialog/toolbar_reader.h"

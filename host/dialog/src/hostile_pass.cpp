@@ -9,7 +9,9 @@
 #include "tx/toolkit/layout.h"
 #include "tx/toolkit/outline.h"
 #include "tx/toolkit/toolbar.h"
+#include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/elements.h"
+#include "tx_host/dialog/limits.h"
 #include "tx_host/dialog/outline_reader.h"
 #include "tx_host/dialog/picture_reader.h"
 #include "tx_host/dialog/toolbar_reader.h"
@@ -19,10 +21,6 @@ namespace tx::host::dialog {
 namespace {
 
 constexpr tx_custom_pointer kNull{};
-// Longer lists than any real dialog's are read this far; deeper rows than any project's are
-// not followed.
-constexpr std::int32_t kMaxItems = 1000;
-constexpr std::size_t kMaxRowDepth = 256;
 
 std::string answer(bool value) { return value ? "true" : "false"; }
 
@@ -45,7 +43,7 @@ class hostile_walker final : public element_listener {
     ++report_.elements;
     made(1, [b] { call(b, &table::set_host_reference, kNull); });
     made(1, [b] { call(b, &table::set_second_host_reference, kNull); });
-    const std::int32_t count = std::clamp(call(b, &table::button_count), 0, kMaxItems);
+    const std::int32_t count = bounded_count(call(b, &table::button_count));
     for (std::int32_t i = 0; i < count; ++i) {
       text("button_box.caption",
            [b, i](tx_custom_pointer v) { return call(b, &table::caption, i, v); });
@@ -145,8 +143,8 @@ class hostile_walker final : public element_listener {
 
   void grid(tx_custom_pointer g) {
     using table = tx_grid_layout_interface_91;
-    const std::int32_t rows = std::clamp(call(g, &table::row_count), 0, kMaxItems);
-    const std::int32_t columns = std::clamp(call(g, &table::column_count), 0, kMaxItems);
+    const std::int32_t rows = bounded_count(call(g, &table::row_count));
+    const std::int32_t columns = bounded_count(call(g, &table::column_count));
     for (std::int32_t r = 0; r < rows; ++r) {
       for (std::int32_t c = 0; c < columns; ++c) {
         made(1, [g, r, c] { call(g, &table::visit_cell, r, c, kNull); });
@@ -158,7 +156,7 @@ class hostile_walker final : public element_listener {
 
   void stack(tx_custom_pointer s) {
     using table = tx_stack_layout_interface_67;
-    const std::int32_t count = std::clamp(call(s, &table::entry_count), 0, kMaxItems);
+    const std::int32_t count = bounded_count(call(s, &table::entry_count));
     for (std::int32_t i = 0; i < count; ++i) {
       made(1, [s, i] { call(s, &table::visit_entry, i, kNull); });
     }
@@ -182,7 +180,7 @@ class hostile_walker final : public element_listener {
   void dropdown(tx_custom_pointer d) {
     using table = tx_dropdown_interface_3;
     text("dropdown.caption", [d](tx_custom_pointer v) { return call(d, &table::caption, v); });
-    const std::int32_t count = std::clamp(call(d, &table::item_count), 0, kMaxItems);
+    const std::int32_t count = bounded_count(call(d, &table::item_count));
     for (std::int32_t i = 0; i < count; ++i) {
       text("dropdown.item_text",
            [d, i](tx_custom_pointer v) { return call(d, &table::item_text, i, v); });
@@ -202,7 +200,7 @@ class hostile_walker final : public element_listener {
          [a](tx_custom_pointer v) { return call(a, &table::caption, v); });
     made(1, [a] { call(a, &table::text, kNull); });
     made(1, [a] { call(a, &table::set_text, static_cast<const char16_t*>(nullptr)); });
-    const std::int32_t count = std::clamp(call(a, &table::history_count), 0, kMaxItems);
+    const std::int32_t count = bounded_count(call(a, &table::history_count));
     for (std::int32_t i = 0; i < count; ++i) {
       text("assisted_input.history_item",
            [a, i](tx_custom_pointer v) { return call(a, &table::history_item, i, v); });
@@ -240,8 +238,8 @@ class hostile_walker final : public element_listener {
 
   void collect_rows(const outline_reader& reader, tx_custom_pointer parent, std::size_t depth,
                     std::vector<tx_custom_pointer>& rows) {
-    if (depth >= kMaxRowDepth) return;
-    const std::int32_t count = std::min(reader.row_count(parent), kMaxItems);
+    if (depth >= limits::row_depth) return;
+    const std::int32_t count = std::min(reader.row_count(parent), limits::count);
     for (std::int32_t i = 0; i < count; ++i) {
       const tx_custom_pointer row = reader.row(parent, i);
       if (!present(row)) continue;
@@ -299,7 +297,7 @@ class hostile_walker final : public element_listener {
     picture("tool.image", [t](tx_custom_pointer v) { return call(t, &table::image, v); });
     text("tool.caption", [t](tx_custom_pointer v) { return call(t, &table::caption, v); });
     text("tool.hint", [t](tx_custom_pointer v) { return call(t, &table::hint, v); });
-    const std::int32_t extra = std::clamp(call(t, &table::extra_image_count), 0, kMaxItems);
+    const std::int32_t extra = bounded_count(call(t, &table::extra_image_count));
     for (std::int32_t i = 0; i < extra; ++i) {
       picture("tool.extra_image",
               [t, i](tx_custom_pointer v) { return call(t, &table::extra_image, i, v); });

@@ -6,6 +6,9 @@
 #include "tx/toolkit/outline.h"
 #include "tx_host/dialog/elements.h"
 #include "tx_host/dialog/row_format.h"
+#include "tx_host/dialog/script_values.h"
+#include "tx_host/services/string_collector.h"
+#include "tx_host/services/utf.h"
 
 namespace tx::host::dialog {
 namespace {
@@ -109,21 +112,18 @@ class rows_gatherer {
     const std::int32_t count = reader_.row_count(parent);
     for (std::int32_t i = 0; i < count; ++i) {
       const tx_custom_pointer row = reader_.row(parent, i);
-      const bool has_children = reader_.row_count(row) > 0;
-      const bool expanded = has_children && reader_.expanded(row);
       row_values values;
       values.selected = reader_.selected(row);
       values.faulty = reader_.faulty(row);
       values.depth = depth;
-      values.expander = !has_children ? row_expander::none
-                        : expanded    ? row_expander::expanded
-                                      : row_expander::collapsed;
+      values.expander = reader_.expander(row);
       if (present(reader_.checks())) {
         values.box = row_box{reader_.checked(row), reader_.check_enabled(row)};
       }
       for (std::size_t c = 0; c < reader_.columns().size(); ++c) {
         values.cells.push_back({reader_.cell(c, row).value_or(""), reader_.emphasized(c, row)});
       }
+      const bool expanded = values.expander == row_expander::expanded;
       rows_.push_back(std::move(values));
       if (expanded) rows(row, depth + 1);
     }
@@ -165,18 +165,29 @@ std::string outline_reader::caption(tx_custom_pointer row) const {
   return columns_.empty() ? std::string() : cell(0, row).value_or("");
 }
 
-std::optional<std::string> outline_reader::cell(std::size_t column, tx_custom_pointer row) const {
+std::optional<std::u16string> outline_reader::wide_cell(std::size_t column,
+                                                        tx_custom_pointer row) const {
   if (column >= columns_.size()) return std::nullopt;
-  return collect_text([&](tx_custom_pointer visitor) {
-    return call(columns_[column], &column_table::text, row, visitor);
-  });
+  string_collector text;
+  if (!call(columns_[column], &column_table::text, row, text.pair())) return std::nullopt;
+  return text.text();
+}
+
+std::optional<std::u16string> outline_reader::wide_header(std::size_t column) const {
+  if (column >= columns_.size()) return std::nullopt;
+  string_collector text;
+  if (!call(columns_[column], &column_table::header, text.pair())) return std::nullopt;
+  return text.text();
+}
+
+std::optional<std::string> outline_reader::cell(std::size_t column, tx_custom_pointer row) const {
+  const std::optional<std::u16string> text = wide_cell(column, row);
+  return text ? std::optional<std::string>(to_utf8(*text)) : std::nullopt;
 }
 
 std::optional<std::string> outline_reader::header(std::size_t column) const {
-  if (column >= columns_.size()) return std::nullopt;
-  return collect_text([&](tx_custom_pointer visitor) {
-    return call(columns_[column], &column_table::header, visitor);
-  });
+  const std::optional<std::u16string> text = wide_header(column);
+  return text ? std::optional<std::string>(to_utf8(*text)) : std::nullopt;
 }
 
 bool outline_reader::selected(tx_custom_pointer row) const noexcept {
@@ -201,10 +212,20 @@ bool outline_reader::emphasized(std::size_t column, tx_custom_pointer row) const
   return column < columns_.size() && call(columns_[column], &column_table::emphasized, row);
 }
 
+row_expander outline_reader::expander(tx_custom_pointer row) const noexcept {
+  if (row_count(row) == 0) return row_expander::none;
+  return expanded(row) ? row_expander::expanded : row_expander::collapsed;
+}
+
+std::optional<std::size_t> outline_reader::first_editable(tx_custom_pointer row) const noexcept {
+  for (std::size_t c = 0; c < columns_.size(); ++c) {
+    if (editable(c, row)) return c;
+  }
+  return std::nullopt;
+}
+
 found_row find_row(const outline_reader& reader, std::string_view address) {
-  // Built by appending: mingw's g++ 12 at -O3 warns falsely on a literal + std::string here.
-  std::string quoted(1, '"');
-  quoted.append(address).push_back('"');
+  const std::string named = quoted(address);
   row_finder path(reader);
   path.by_path(tx_custom_pointer{}, address);
   const std::vector<found_row>* matches = &path.matches();
@@ -213,15 +234,15 @@ found_row find_row(const outline_reader& reader, std::string_view address) {
     caption.by_caption(tx_custom_pointer{}, address);
     matches = &caption.matches();
   }
-  if (matches->empty()) return {{}, {}, "no row " + quoted};
+  if (matches->empty()) return {{}, {}, "no row " + named};
   if (matches->size() > 1) {
-    return {{}, {}, "more than one row answers to " + quoted + ": give its path, {N} for the N-th"};
+    return {{}, {}, "more than one row answers to " + named + ": give its path, {N} for the N-th"};
   }
   found_row row = matches->front();
   for (const tx_custom_pointer above : row.ancestors) {
     if (!reader.expanded(above)) {
       return {
-          {}, {}, "row " + quoted + " is hidden: \"" + reader.caption(above) + "\" is collapsed"};
+          {}, {}, "row " + named + " is hidden: \"" + reader.caption(above) + "\" is collapsed"};
     }
   }
   return row;

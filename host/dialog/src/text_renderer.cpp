@@ -7,6 +7,8 @@
 #include "tx/toolkit/docker.h"
 #include "tx/toolkit/layout.h"
 #include "tx_host/dialog/button_reader.h"
+#include "tx_host/dialog/element_tree.h"
+#include "tx_host/dialog/limits.h"
 #include "tx_host/dialog/outline_reader.h"
 #include "tx_host/dialog/toolbar_reader.h"
 
@@ -15,7 +17,7 @@ namespace {
 
 constexpr std::string_view kGutter = "│ ";
 
-std::string quoted(std::string_view text) {
+std::string guillemets(std::string_view text) {
   std::string out("«");
   out.append(text).append("»");
   return out;
@@ -38,7 +40,7 @@ std::string checkbox_text(const element& e) {
 
 std::string dropdown_text(const element& e, const vocabulary& words) {
   using table = tx_dropdown_interface_3;
-  const std::int32_t count = call(e.pair, &table::item_count);
+  const std::int32_t count = bounded_count(call(e.pair, &table::item_count));
   std::vector<std::string> items;
   for (std::int32_t i = 0; i < count; ++i) {
     items.push_back(collect_text([&](tx_custom_pointer v) {
@@ -62,7 +64,7 @@ std::string input_text(const element& e, const vocabulary& words) {
                               return true;
                             }).value_or("");
   std::vector<std::string> history;
-  const std::int32_t count = call(e.pair, &table::history_count);
+  const std::int32_t count = bounded_count(call(e.pair, &table::history_count));
   for (std::int32_t i = 0; i < count; ++i) {
     const std::optional<std::string> item =
         collect_text([&](tx_custom_pointer v) { return call(e.pair, &table::history_item, i, v); });
@@ -221,9 +223,9 @@ std::string input(std::string_view caption, std::string_view value,
                   const std::vector<std::string>& history, const vocabulary& words) {
   std::string listed;
   for (const std::string& item : history) {
-    listed += (listed.empty() ? "" : " · ") + quoted(item);
+    listed += (listed.empty() ? "" : " · ") + guillemets(item);
   }
-  return labeled(caption, quoted(value)) + "  " + std::string(words.history) + ": " +
+  return labeled(caption, guillemets(value)) + "  " + std::string(words.history) + ": " +
          (listed.empty() ? std::string(words.none) : listed);
 }
 

@@ -55,12 +55,19 @@ std::optional<picture_size> tool_image(tx_custom_pointer tool) {
   });
 }
 
+tool_values values_of(const tool_entry& t) {
+  return {t.id,
+          tool_caption(t.tool),
+          tool_hint(t.tool),
+          tool_image(t.tool),
+          tool_enabled(t.tool),
+          tool_visible(t.tool),
+          t.group};
+}
+
 std::vector<tool_values> tool_values_of(tx_custom_pointer toolbar) {
   std::vector<tool_values> values;
-  for (const tool_entry& t : tools_of(toolbar)) {
-    values.push_back({t.id, tool_caption(t.tool), tool_hint(t.tool), tool_image(t.tool),
-                      tool_enabled(t.tool), tool_visible(t.tool), t.group});
-  }
+  for (const tool_entry& t : tools_of(toolbar)) values.push_back(values_of(t));
   return values;
 }
 

@@ -1,15 +1,25 @@
 // An edit box over one cell of a list, for typing a cell's new text in place. Enter keeps the
-// text, Esc drops it, and the box losing the focus keeps a changed text, as a list view's own label
-// editing does. The box does not act itself: it posts `close_message` to the list (wParam 1 for
-// Enter, 0 for Esc, 2 for the lost focus; lParam the editor's serial number), and the list's owner
-// closes it, so the box is never destroyed from inside its own window procedure.
+// text, Esc drops it, and the box losing the focus keeps a changed text, as a list view's own
+// label editing does. The box does not act itself: it posts `close_message` to the list (wParam
+// an editor_close, lParam the editor's serial number), and the list's owner closes it, so the box
+// is never destroyed from inside its own window procedure.
 #pragma once
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
+#include "win32_handles.h"
+
 namespace tx::host::gui {
+
+// How the box asks to be closed.
+enum class editor_close : WPARAM {
+  drop = 0,             // Esc
+  keep = 1,             // Enter
+  keep_if_changed = 2,  // the focus left the box
+};
 
 class cell_editor {
  public:
@@ -21,19 +31,20 @@ class cell_editor {
   cell_editor& operator=(const cell_editor&) = delete;
   ~cell_editor();
 
-  HWND window() const noexcept { return edit_; }
+  HWND window() const noexcept { return edit_.get(); }
   LPARAM serial() const noexcept { return serial_; }
   std::u16string text() const;
 
  private:
-  static LRESULT CALLBACK procedure(HWND edit, UINT message, WPARAM wparam, LPARAM lparam);
-  void close(WPARAM how) const noexcept;
+  std::optional<LRESULT> on_message(UINT message, WPARAM wparam, LPARAM lparam) const;
+  void close(editor_close how) const noexcept;
 
   HWND list_;
-  HWND edit_ = nullptr;
-  WNDPROC original_ = nullptr;
   UINT close_message_;
   LPARAM serial_;
+  unique_window edit_;
+  // Removed before the box is destroyed: its closing asks for nothing.
+  window_subclass subclass_;
 };
 
 }  // namespace tx::host::gui

@@ -1,27 +1,9 @@
 #include "tx_host/gui/control.h"
 
-#include <span>
-
 namespace tx::host::gui {
 namespace {
 
 constexpr wchar_t kControlsWindowClass[] = L"tx_controls_window";
-
-// Offers a WM_COMMAND or WM_NOTIFY to `controls` until one handles it: true then, with `result`
-// its answer. Any other message is no control's.
-bool offer_to_controls(std::span<control* const> controls, UINT message, WPARAM wparam,
-                       LPARAM lparam, LRESULT& result) {
-  for (control* c : controls) {
-    if (message == WM_NOTIFY && c->on_notify(*reinterpret_cast<const NMHDR*>(lparam), result)) {
-      return true;
-    }
-    if (message == WM_COMMAND &&
-        c->on_command(reinterpret_cast<HWND>(lparam), HIWORD(wparam), result)) {
-      return true;
-    }
-  }
-  return false;
-}
 
 // The controls come with the window's creation and are kept in its user data.
 LRESULT CALLBACK controls_window_procedure(HWND window, UINT message, WPARAM wparam,
@@ -33,13 +15,23 @@ LRESULT CALLBACK controls_window_procedure(HWND window, UINT message, WPARAM wpa
   const auto* controls =
       reinterpret_cast<const std::vector<control*>*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   LRESULT result = 0;
-  if (controls != nullptr && offer_to_controls(*controls, message, wparam, lparam, result)) {
-    return result;
+  if (controls != nullptr) {
+    for (control* c : *controls) {
+      if (offer_message(*c, message, wparam, lparam, result)) return result;
+    }
   }
   return DefWindowProcW(window, message, wparam, lparam);
 }
 
 }  // namespace
+
+bool offer_message(control& c, UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) {
+  if (message == WM_NOTIFY) return c.on_notify(*reinterpret_cast<const NMHDR*>(lparam), result);
+  if (message == WM_COMMAND) {
+    return c.on_command(reinterpret_cast<HWND>(lparam), HIWORD(wparam), result);
+  }
+  return false;
+}
 
 HWND make_controls_window(const wchar_t* title, int width, int height,
                           const std::vector<control*>& controls) {

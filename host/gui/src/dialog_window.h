@@ -3,7 +3,15 @@
 // boxes and stacks, and whose buttons are the button box's, at the bottom right. Every text,
 // value and state is read through the element interfaces and kept only in the controls; every
 // action of a person goes back through the same interfaces; a change the plug-in tells a view
-// makes the window read that element again (after the current message, from its own queue).
+// makes the window read that element again once the message that caused it has been handled by
+// the window's own loop — never inside a nested loop (a message box's) while the plug-in's call
+// that told it is still running.
+//
+// The window's code is split by what it does: dialog_frame.cpp (the empty dialog, its font, its
+// life), window_build.cpp (the controls from the elements' description), window_fit.cpp (the
+// window's size and the buttons' row), window_refresh.cpp (reading what the plug-in told),
+// window_loop.cpp (the message loops and the dialog procedure), window_parts.cpp (the printing
+// and the parts a script acts on).
 #pragma once
 
 #include <cstdint>
@@ -14,9 +22,12 @@
 #include <vector>
 
 #include "tx/abi.h"
+#include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/element_views.h"
 #include "tx_host/dialog/elements.h"
+#include "tx_host/dialog/script_targets.h"
 #include "tx_host/gui/control.h"
+#include "win32_handles.h"
 #include "window_layout.h"
 
 namespace tx::host::gui {
@@ -28,8 +39,8 @@ class toolbar_control;
 
 class dialog_window {
  public:
-  // Shows the dialog over `owner` (which it disables until it closes). `docker` and `buttons`
-  // are borrowed while the window lives.
+  // Shows the dialog over `owner`, a window of this process (disabled until the dialog closes),
+  // or over none. `docker` and `buttons` are borrowed while the window lives.
   dialog_window(tx_custom_pointer docker, tx_custom_pointer buttons, std::int32_t language_offset,
                 HWND owner);
   ~dialog_window();
@@ -43,7 +54,8 @@ class dialog_window {
 
   // Delivers every message waiting for this thread, then returns.
   void pump();
-  // A person's loop: until the dialog closes.
+  // A person's loop: until the dialog closes, or until the thread is asked to quit (the quit
+  // message is then left for the loop outside).
   std::int32_t run_modal();
 
   // What the window shows, in the text host's form (`print`).
@@ -60,6 +72,8 @@ class dialog_window {
     std::int32_t index;
   };
   std::vector<button> shown_buttons() const;
+  // The fields as a script finds them, in the order of fields().
+  std::vector<dialog::field_facts> field_facts() const;
 
   // Catches up with elements the plug-in added since (hands them their views).
   void attach_views() { views_.attach(docker_); }
@@ -72,9 +86,12 @@ class dialog_window {
 
   void create_frame();
   void build();
-  std::unique_ptr<window_node> build_node(tx_custom_pointer any, int depth);
-  void build_children(window_node& node, int depth);
+  void build_buttons();
+  std::unique_ptr<window_node> build_node(dialog::element_node described);
+  void build_children(window_node& node, std::vector<dialog::element_node> described);
   void register_node(window_node& node);
+  // Handles what the message loop took, then reads what the plug-in told meanwhile.
+  void deliver(MSG& message);
   void align_captions();
   void layout();
   void fit();
@@ -91,14 +108,15 @@ class dialog_window {
   bool owner_was_enabled_ = false;
   HWND window_ = nullptr;
   metrics metrics_;
-  HFONT bold_font_ = nullptr;
+  unique_font bold_font_;
   std::unique_ptr<window_node> root_;
   std::vector<std::pair<HWND, std::int32_t>> buttons_shown_;
   // Which node shows each element (tools, columns and checks map to their toolbar or outline).
   std::unordered_map<void*, window_node*> nodes_;
   // What the plug-in told since the window last read it, by element.
   std::unordered_map<void*, std::uint32_t> pending_;
-  bool refresh_posted_ = false;
+  // A wake-up is in the queue for the loop that reads pending_.
+  bool wake_posted_ = false;
   std::optional<std::int32_t> closed_with_;
   dialog::element_views views_;
   SIZE minimum_{};

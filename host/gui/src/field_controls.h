@@ -1,4 +1,5 @@
-// The dialog window's controls for the plain elements: a label (static text), and the fields —
+// The dialog window's controls for the plain elements (one file each, field_controls.cpp for
+// what they share): a label (static text), and the fields —
 // check box, drop-down list, integer input (an edit with an up-down control) and text input
 // with history (an editable combo box whose list is the history, most recent first). A field
 // with a caption shows it as static text to its left; fields standing in the same column share
@@ -6,19 +7,28 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "tx/abi.h"
 #include "tx_host/dialog/elements.h"
+#include "tx_host/dialog/refusal.h"
 #include "tx_host/gui/control.h"
+#include "win32_handles.h"
 
 namespace tx::host::gui {
+
+// Heights in dialog units of the standard controls: a line of text, an edit or combo box, a
+// check box.
+inline constexpr int kTextHeightDlu = 8;
+inline constexpr int kBoxHeightDlu = 12;
+inline constexpr int kCheckHeightDlu = 10;
 
 class label_control final : public control {
  public:
   label_control(HWND parent, tx_custom_pointer label, const metrics& m);
-  ~label_control() override;
   size_request request(const metrics& m) const override;
   void place(const RECT& area) override;
   void show(bool shown) override;
@@ -27,12 +37,11 @@ class label_control final : public control {
 
  private:
   tx_custom_pointer label_;
-  HWND text_;
+  unique_window text_;
 };
 
 class field_control : public control {
  public:
-  ~field_control() override;
   bool is_field() const noexcept override { return true; }
   void show(bool shown) override;
   // The caption as shown (what a script names the field by).
@@ -42,8 +51,8 @@ class field_control : public control {
   int caption_width(const metrics& m) const;
   void set_caption_column(int width) noexcept { caption_column_ = width; }
   // What a script's `set NAME VALUE` does: the input a person would give the control, sent to
-  // the control itself. The error (as the text host words it), empty when done.
-  virtual std::string enter(std::string_view value, std::string_view name) = 0;
+  // the control itself; the refusal when `value` is none the control takes.
+  virtual std::optional<dialog::refusal> enter(std::string_view value, std::string_view name) = 0;
 
  protected:
   field_control(HWND parent, const dialog::element& e, const metrics& m);
@@ -53,30 +62,42 @@ class field_control : public control {
   void refresh_caption_and_state();
   size_request with_caption(const metrics& m, int box_width, int box_height) const;
 
+  // While alive, the control's writes into its own windows are not taken for a person's input
+  // (their notifications come back to on_command).
+  class updating_scope {
+   public:
+    explicit updating_scope(field_control& control) noexcept
+        : control_(control), was_(std::exchange(control.updating_, true)) {}
+    updating_scope(const updating_scope&) = delete;
+    updating_scope& operator=(const updating_scope&) = delete;
+    ~updating_scope() { control_.updating_ = was_; }
+
+   private:
+    field_control& control_;
+    bool was_;
+  };
+
   dialog::element element_;
-  HWND caption_ = nullptr;  // none for a check box, whose caption is its own
-  HWND box_ = nullptr;
+  unique_window caption_;  // none for a check box, whose caption is its own
+  unique_window box_;
   int caption_column_ = 0;
   int gap_ = 0;
-  // Set while the control writes into its own windows, so that their notifications are not
-  // taken for a person's input.
   bool updating_ = false;
 };
 
 class checkbox_control final : public field_control {
  public:
   checkbox_control(HWND parent, const dialog::element& e, const metrics& m);
-  ~checkbox_control() override;
   size_request request(const metrics& m) const override;
   void place(const RECT& area) override;
   void refresh(std::uint32_t changes) override;
   bool on_command(HWND from, UINT code, LRESULT& result) override;
   void print(std::vector<std::string>& lines, const dialog::vocabulary& words) const override;
   std::string caption() const override;
-  std::string enter(std::string_view value, std::string_view name) override;
+  std::optional<dialog::refusal> enter(std::string_view value, std::string_view name) override;
 
  private:
-  HWND tip_ = nullptr;
+  unique_window tip_;
   std::wstring tip_text_;
 };
 
@@ -88,7 +109,7 @@ class dropdown_control final : public field_control {
   void refresh(std::uint32_t changes) override;
   bool on_command(HWND from, UINT code, LRESULT& result) override;
   void print(std::vector<std::string>& lines, const dialog::vocabulary& words) const override;
-  std::string enter(std::string_view value, std::string_view name) override;
+  std::optional<dialog::refusal> enter(std::string_view value, std::string_view name) override;
   // The items as the list shows them.
   std::vector<std::string> items() const;
   // Picks item `index` as a person does: the list's selection, then its notification.
@@ -107,7 +128,7 @@ class input_control final : public field_control {
   void refresh(std::uint32_t changes) override;
   bool on_command(HWND from, UINT code, LRESULT& result) override;
   void print(std::vector<std::string>& lines, const dialog::vocabulary& words) const override;
-  std::string enter(std::string_view value, std::string_view name) override;
+  std::optional<dialog::refusal> enter(std::string_view value, std::string_view name) override;
 
  private:
   void load_history();
@@ -118,19 +139,18 @@ class input_control final : public field_control {
 class integer_control final : public field_control {
  public:
   integer_control(HWND parent, const dialog::element& e, const metrics& m);
-  ~integer_control() override;
   size_request request(const metrics& m) const override;
   void place(const RECT& area) override;
   void show(bool shown) override;
   void refresh(std::uint32_t changes) override;
   bool on_command(HWND from, UINT code, LRESULT& result) override;
   void print(std::vector<std::string>& lines, const dialog::vocabulary& words) const override;
-  std::string enter(std::string_view value, std::string_view name) override;
+  std::optional<dialog::refusal> enter(std::string_view value, std::string_view name) override;
 
  private:
   void load_value();
   int box_width_;
-  HWND spin_ = nullptr;
+  unique_window spin_;
   bool typed_ = false;
 };
 

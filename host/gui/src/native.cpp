@@ -58,6 +58,10 @@ int text_width(const metrics& m, std::string_view text) {
   return size.cx;
 }
 
+void move_window(HWND window, const RECT& area) noexcept {
+  MoveWindow(window, area.left, area.top, area.right - area.left, area.bottom - area.top, TRUE);
+}
+
 bool marked_visible(HWND window) noexcept {
   return (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
 }

@@ -29,6 +29,9 @@ HWND make_child(HWND parent, const wchar_t* window_class, std::string_view text,
 // The width in pixels of `text` in the dialog font.
 int text_width(const metrics& m, std::string_view utf8);
 
+// Moves and sizes `window` to `area` (client coordinates of its parent).
+void move_window(HWND window, const RECT& area) noexcept;
+
 // Whether the window itself is marked shown (whatever its parent is).
 bool marked_visible(HWND window) noexcept;
 

@@ -12,6 +12,12 @@
 // The script actions send the input a person would give to the list view's own window
 // procedure (a click on a box or an expander, F2 and keys typed into the in-place editor, a
 // selection change) and answer the text driver's error texts, empty when done.
+//
+// The control's work is spread by what it does: creation and sizing (outline_control.cpp), the
+// rows and the list's selection (outline_rows.cpp), the list's notifications and drawing
+// (outline_notifications.cpp, outline_drawing.cpp), a person's clicks and keys (outline_input.cpp,
+// outline_type_ahead.cpp), the in-place editor (outline_editing.cpp), the script actions
+// (outline_actions.cpp) and printing (outline_printing.cpp).
 #pragma once
 
 #include <cstdint>
@@ -24,8 +30,10 @@
 #include "cell_editor.h"
 #include "outline_images.h"
 #include "tx/abi.h"
+#include "tx_host/dialog/outline_reader.h"
 #include "tx_host/gui/control.h"
-#include "visible_rows.h"
+#include "tx_host/window_logic/visible_rows.h"
+#include "win32_handles.h"
 
 namespace tx::host::gui {
 
@@ -50,7 +58,7 @@ class outline_control final : public control {
   std::string rename(std::string_view address, std::string_view text, bool enter);
 
   // The list view.
-  HWND list() const noexcept { return list_; }
+  HWND list() const noexcept { return list_.get(); }
   // How many rows the list shows.
   std::size_t shown_rows() const noexcept { return rows_.size(); }
 
@@ -58,40 +66,35 @@ class outline_control final : public control {
   // Keeps rebuilding for the end of an action whose calls into the plug-in may tell of new rows.
   class action_scope;
 
-  static LRESULT CALLBACK list_procedure(HWND list, UINT message, WPARAM wparam, LPARAM lparam,
-                                         UINT_PTR id, DWORD_PTR self);
-  LRESULT on_list_message(UINT message, WPARAM wparam, LPARAM lparam, bool& handled);
-
-  void read_columns();
+  // The rows and the list's selection.
   void read_headers();
   void rebuild();
   // Makes the list's selection from `from` on what `wanted` (ascending positions) says.
   void select_in_list(std::size_t from, const std::vector<std::size_t>& wanted);
   std::vector<std::size_t> list_selection(std::size_t from) const;
   void set_list_state(std::size_t position, UINT state, UINT mask);
-
-  // What a person's input does.
   void toggle_expanded(std::size_t position);
-  void toggle_tick(std::size_t position);
-  void open_editor(std::size_t position, std::size_t column);
-  void close_editor(bool keep);
+  // Hands a selection change the user made in the list to the rows `first` to `last`.
   void handed_selection(std::size_t first, std::size_t last, bool on);
 
-  // Reading the element for the list.
-  bool has_children(tx_custom_pointer row) const noexcept;
-  bool expanded(tx_custom_pointer row) const noexcept;
-  int expander(tx_custom_pointer row) const noexcept;
-  bool selected(tx_custom_pointer row) const noexcept;
-  bool faulty(tx_custom_pointer row) const noexcept;
-  bool ticked(tx_custom_pointer row) const noexcept;
-  bool tick_enabled(tx_custom_pointer row) const noexcept;
-  bool editable(std::size_t column, tx_custom_pointer row) const noexcept;
-  bool emphasized(std::size_t column, tx_custom_pointer row) const noexcept;
-  std::u16string cell(std::size_t column, tx_custom_pointer row) const;
-  std::optional<std::size_t> first_editable(tx_custom_pointer row) const noexcept;
-
-  void fill_item(LVITEMW& item) const;
+  // A person's input on the list: the list's messages before its own procedure sees them.
+  std::optional<LRESULT> on_list_message(UINT message, WPARAM wparam, LPARAM lparam);
+  std::optional<LRESULT> on_click(UINT message, LPARAM lparam);
+  std::optional<LRESULT> on_key(WPARAM key);
+  std::optional<LRESULT> on_character(WPARAM character);
+  std::optional<std::size_t> focused() const;
+  void toggle_tick(std::size_t position);
   LRESULT find_typed(const NMLVFINDITEMW& find) const;
+
+  // The in-place editor.
+  void open_editor(std::size_t position, std::size_t column);
+  void close_editor(bool keep);
+  // Whether the editor's text differs from its cell's.
+  bool editor_changed() const;
+
+  // What the list asks to show.
+  std::u16string cell(std::size_t column, tx_custom_pointer row) const;
+  void fill_item(LVITEMW& item) const;
   LRESULT custom_draw(NMLVCUSTOMDRAW& draw) const;
 
   // The list's position of the row `address` names, or the error text.
@@ -105,14 +108,16 @@ class outline_control final : public control {
   POINT point_at(std::size_t position, int part) const;
   void click(POINT at, WPARAM keys = 0) const;
 
-  HWND list_ = nullptr;
-  tx_custom_pointer outline_;
-  tx_custom_pointer checks_{};
-  std::vector<tx_custom_pointer> columns_;
+  dialog::outline_reader reader_;
   HFONT font_;
   HFONT bold_font_;
-  std::unique_ptr<outline_images> images_;
-  visible_rows rows_;
+  // The list shares them: they outlive it.
+  outline_images images_;
+  window_logic::visible_rows rows_;
+  unique_window list_;
+  // Let go before the list is destroyed.
+  window_subclass subclass_;
+  // Over the list: closed before it.
   std::unique_ptr<cell_editor> editor_;
   tx_custom_pointer editor_row_{};
   std::size_t editor_column_ = 0;

@@ -14,12 +14,6 @@ namespace {
 constexpr wchar_t kStripClass[] = L"tx_host_tool_strip";
 constexpr int kFirstCommand = 1000;
 
-std::string quoted(std::string_view text) {
-  std::string out(1, '"');
-  out.append(text).push_back('"');
-  return out;
-}
-
 void register_strip(WNDPROC procedure) {
   static const bool registered = [procedure] {
     WNDCLASSEXW type{};
@@ -34,9 +28,13 @@ void register_strip(WNDPROC procedure) {
   (void)registered;
 }
 
-std::u16string read_text(HWND window, UINT message, WPARAM which, std::size_t room = 256) {
-  std::vector<wchar_t> buffer(room, L'\0');
-  SendMessageW(window, message, which, reinterpret_cast<LPARAM>(buffer.data()));
+// The text of the button with `command`, however long: the toolbar is asked its length first,
+// then for the text into room for it.
+std::u16string button_text(HWND bar, int command) {
+  const LRESULT length = SendMessageW(bar, TB_GETBUTTONTEXTW, command, 0);
+  if (length <= 0) return {};
+  std::vector<wchar_t> buffer(static_cast<std::size_t>(length) + 1, L'\0');
+  SendMessageW(bar, TB_GETBUTTONTEXTW, command, reinterpret_cast<LPARAM>(buffer.data()));
   buffer.back() = L'\0';
   return std::u16string(reinterpret_cast<const char16_t*>(buffer.data()));
 }
@@ -82,8 +80,6 @@ toolbar_control::~toolbar_control() {
     DestroyWindow(strip_);
   }
   if (tips_ != nullptr && IsWindow(tips_)) DestroyWindow(tips_);
-  if (pictures_ != nullptr) ImageList_Destroy(pictures_);
-  if (greyed_ != nullptr) ImageList_Destroy(greyed_);
 }
 
 LRESULT CALLBACK toolbar_control::strip_procedure(HWND strip, UINT message, WPARAM wparam,
@@ -107,12 +103,10 @@ void toolbar_control::load() {
   while (SendMessageW(bar_, TB_BUTTONCOUNT, 0, 0) > 0) SendMessageW(bar_, TB_DELETEBUTTON, 0, 0);
   SendMessageW(bar_, TB_SETIMAGELIST, 0, 0);
   SendMessageW(bar_, TB_SETDISABLEDIMAGELIST, 0, 0);
-  if (pictures_ != nullptr) ImageList_Destroy(pictures_);
-  if (greyed_ != nullptr) ImageList_Destroy(greyed_);
-  pictures_ = ImageList_Create(side_, side_, ILC_COLOR24 | ILC_MASK, 8, 8);
-  greyed_ = ImageList_Create(side_, side_, ILC_COLOR24 | ILC_MASK, 8, 8);
-  SendMessageW(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_));
-  SendMessageW(bar_, TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(greyed_));
+  pictures_.reset(ImageList_Create(side_, side_, ILC_COLOR24 | ILC_MASK, 8, 8));
+  greyed_.reset(ImageList_Create(side_, side_, ILC_COLOR24 | ILC_MASK, 8, 8));
+  SendMessageW(bar_, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pictures_.get()));
+  SendMessageW(bar_, TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(greyed_.get()));
 
   tools_.clear();
   std::vector<TBBUTTON> buttons;
@@ -132,12 +126,10 @@ void toolbar_control::load() {
     tool_picture picture;
     int image = I_IMAGENONE;
     if (call(entry.tool, &tx_action_tool_interface_0::image, picture.pair()) && picture.size()) {
-      HBITMAP plain = picture.fitted(side_, false);
-      HBITMAP grey = picture.fitted(side_, true);
-      image = ImageList_AddMasked(pictures_, plain, picture.corner());
-      ImageList_AddMasked(greyed_, grey, picture.corner());
-      DeleteObject(plain);
-      DeleteObject(grey);
+      const unique_bitmap plain(picture.fitted(side_, false));
+      const unique_bitmap grey(picture.fitted(side_, true));
+      image = ImageList_AddMasked(pictures_.get(), plain.get(), picture.corner());
+      ImageList_AddMasked(greyed_.get(), grey.get(), picture.corner());
       t.picture = picture.size();
     }
     const std::optional<std::string> caption = dialog::tool_caption(entry.tool);
@@ -169,7 +161,7 @@ void toolbar_control::fit_text_buttons() {
   HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(bar_, WM_GETFONT, 0, 0)));
   for (const tool& t : tools_) {
     if (t.picture) continue;
-    const std::u16string text = read_text(bar_, TB_GETBUTTONTEXTW, t.command, 1024);
+    const std::u16string text = button_text(bar_, t.command);
     SIZE size{};
     GetTextExtentPoint32W(dc, reinterpret_cast<const wchar_t*>(text.c_str()),
                           static_cast<int>(text.size()), &size);
@@ -199,7 +191,7 @@ LRESULT toolbar_control::draw_text_button(NMTBCUSTOMDRAW& draw) const {
   } else if ((state & CDIS_HOT) != 0 && (state & CDIS_DISABLED) == 0) {
     DrawEdge(draw.nmcd.hdc, &r, BDR_RAISEDINNER, BF_RECT);
   }
-  const std::u16string text = read_text(bar_, TB_GETBUTTONTEXTW, t->command, 1024);
+  const std::u16string text = button_text(bar_, t->command);
   HGDIOBJ old =
       SelectObject(draw.nmcd.hdc, reinterpret_cast<HFONT>(SendMessageW(bar_, WM_GETFONT, 0, 0)));
   SetBkMode(draw.nmcd.hdc, TRANSPARENT);
@@ -304,7 +296,7 @@ std::vector<toolbar_control::button_values> toolbar_control::buttons() const {
     button_values b;
     b.command = button.idCommand;
     b.values.id = t->id;
-    const std::u16string text = read_text(bar_, TB_GETBUTTONTEXTW, button.idCommand, 1024);
+    const std::u16string text = button_text(bar_, button.idCommand);
     if (t->captioned) b.values.caption = to_utf8(text);
     std::vector<wchar_t> tip_text(1024, L'\0');
     TTTOOLINFOW tip{};
@@ -328,36 +320,26 @@ std::vector<toolbar_control::button_values> toolbar_control::buttons() const {
 
 void toolbar_control::print(std::vector<std::string>& lines,
                             const dialog::vocabulary& words) const {
-  std::vector<dialog::tool_values> values;
-  for (button_values& b : buttons()) values.push_back(std::move(b.values));
-  lines.push_back(dialog::format_toolbar(words.tools, values));
+  lines.push_back(dialog::format_toolbar(words.tools, tools()));
 }
 
-std::string toolbar_control::describe() const {
+std::vector<dialog::tool_values> toolbar_control::tools() const {
   std::vector<dialog::tool_values> values;
   for (button_values& b : buttons()) values.push_back(std::move(b.values));
-  return dialog::format_tool_listing(values);
+  return values;
 }
 
-std::string toolbar_control::click(std::string_view name) {
+std::string toolbar_control::describe() const { return dialog::format_tool_listing(tools()); }
+
+void toolbar_control::click(std::size_t position) {
   const std::vector<button_values> shown = buttons();
-  auto found = std::find_if(shown.begin(), shown.end(),
-                            [name](const button_values& b) { return b.values.id == name; });
-  if (found == shown.end()) {
-    found = std::find_if(shown.begin(), shown.end(), [name](const button_values& b) {
-      return b.values.caption && *b.values.caption == name;
-    });
-  }
-  if (found == shown.end()) return "no tool " + quoted(name);
-  if (!found->values.visible) return "tool " + quoted(name) + " is hidden";
-  if (!found->values.enabled) return "tool " + quoted(name) + " is disabled";
+  if (position >= shown.size()) return;
   // The mouse goes down and up over the button: the toolbar tells its strip of the command.
   RECT r{};
-  SendMessageW(bar_, TB_GETRECT, found->command, reinterpret_cast<LPARAM>(&r));
+  SendMessageW(bar_, TB_GETRECT, shown[position].command, reinterpret_cast<LPARAM>(&r));
   const LPARAM at = MAKELPARAM((r.left + r.right) / 2, (r.top + r.bottom) / 2);
   SendMessageW(bar_, WM_LBUTTONDOWN, MK_LBUTTON, at);
   SendMessageW(bar_, WM_LBUTTONUP, 0, at);
-  return {};
 }
 
 }  // namespace tx::host::gui

@@ -14,7 +14,9 @@
 
 #include "tx/abi.h"
 #include "tx_host/dialog/picture_reader.h"
+#include "tx_host/dialog/toolbar_format.h"
 #include "tx_host/gui/control.h"
+#include "win32_handles.h"
 
 namespace tx::host::gui {
 
@@ -30,9 +32,10 @@ class toolbar_control final : public control {
   void refresh(std::uint32_t changes) override;
   void print(std::vector<std::string>& lines, const dialog::vocabulary& words) const override;
 
-  // Clicks the button of the tool with id (or else caption) `tool`; the text driver's error
-  // texts, empty when done.
-  std::string click(std::string_view tool);
+  // What the buttons show, one a tool in toolbar order, read back from the toolbar.
+  std::vector<dialog::tool_values> tools() const;
+  // Clicks the button of tool `position` (in the order of tools()) as a person does.
+  void click(std::size_t position);
   // The `tools` listing: one line a tool, read from the buttons.
   std::string describe() const;
 
@@ -63,8 +66,8 @@ class toolbar_control final : public control {
   HWND strip_ = nullptr;
   HWND bar_ = nullptr;
   HWND tips_ = nullptr;
-  HIMAGELIST pictures_ = nullptr;
-  HIMAGELIST greyed_ = nullptr;
+  unique_image_list pictures_;
+  unique_image_list greyed_;
   std::vector<tool> tools_;
   int side_;
 };

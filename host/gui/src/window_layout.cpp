@@ -4,13 +4,14 @@
 
 #include "native.h"
 #include "tx/toolkit/layout.h"
+#include "tx_host/window_logic/grid_tracks.h"
 
 namespace tx::host::gui {
 namespace {
 
 using dialog::element_kind;
 
-// More cells than any real grid.
+// More lines than any real grid.
 constexpr std::int32_t kMaxLines = 64;
 constexpr int kGap = layout_gap;
 // A group box's insets: its caption above the content.
@@ -18,110 +19,40 @@ constexpr int kGroupTop = 11;
 constexpr int kGroupSide = 6;
 constexpr int kGroupBottom = 6;
 
-struct track {
-  int size = 0;
-  bool used = false;
-  bool stretch = false;
-  bool grows = false;
-};
-
-int total(const std::vector<track>& tracks, int gap) {
-  int sum = 0;
-  int used = 0;
-  for (const track& t : tracks) {
-    if (!t.used) continue;
-    sum += t.size;
-    ++used;
-  }
-  return sum + (used > 1 ? gap * (used - 1) : 0);
-}
-
-// Spreads `extra` over the tracks that take it: those that stretch and hold content that
-// grows, else those whose content grows, else nothing.
-void spread(std::vector<track>& tracks, int extra) {
-  if (extra <= 0) return;
-  auto pick = [&](auto&& takes) {
-    std::vector<track*> chosen;
-    for (track& t : tracks) {
-      if (t.used && takes(t)) chosen.push_back(&t);
-    }
-    return chosen;
-  };
-  std::vector<track*> chosen = pick([](const track& t) { return t.stretch && t.grows; });
-  if (chosen.empty()) chosen = pick([](const track& t) { return t.grows; });
-  if (chosen.empty()) return;
-  const int each = extra / static_cast<int>(chosen.size());
-  for (track* t : chosen) t->size += each;
-  chosen.back()->size += extra - each * static_cast<int>(chosen.size());
-}
-
-// A grid's columns and rows: each as wide (high) as its widest (highest) cell; a cell that
-// spans makes the last line it covers take what the others lack. Lines without content take
-// no room and no gap.
-void plan_grid(const window_node& node, const std::vector<size_request>& requests, const metrics& m,
-               std::vector<track>& across, std::vector<track>& down) {
+// A grid's lines as its element sets them, with the gaps between them: the one place the layout
+// asks the plug-in about a grid, so that sizing and placing work from the same counts.
+window_logic::grid_spec grid_lines(const window_node& node, const metrics& m) {
   using table = tx_grid_layout_interface_91;
   const tx_custom_pointer pair = node.element.pair;
-  const std::int32_t rows = std::clamp(call(pair, &table::row_count), 0, kMaxLines);
-  const std::int32_t columns = std::clamp(call(pair, &table::column_count), 0, kMaxLines);
-  across.assign(static_cast<std::size_t>(columns), track{});
-  down.assign(static_cast<std::size_t>(rows), track{});
-  for (std::int32_t c = 0; c < columns; ++c) {
-    track& t = across[static_cast<std::size_t>(c)];
-    t.stretch = call(pair, &table::column_stretch, c);
-    t.size = std::max<int>(0, call(pair, &table::column_minimum, c));
+  window_logic::grid_spec grid;
+  grid.columns.resize(
+      static_cast<std::size_t>(std::clamp(call(pair, &table::column_count), 0, kMaxLines)));
+  grid.rows.resize(
+      static_cast<std::size_t>(std::clamp(call(pair, &table::row_count), 0, kMaxLines)));
+  for (std::size_t c = 0; c < grid.columns.size(); ++c) {
+    const auto index = static_cast<std::int32_t>(c);
+    grid.columns[c] = {call(pair, &table::column_minimum, index),
+                       call(pair, &table::column_stretch, index)};
   }
-  for (std::int32_t r = 0; r < rows; ++r) {
-    track& t = down[static_cast<std::size_t>(r)];
-    t.stretch = call(pair, &table::row_stretch, r);
-    t.size = std::max<int>(0, call(pair, &table::row_minimum, r));
+  for (std::size_t r = 0; r < grid.rows.size(); ++r) {
+    const auto index = static_cast<std::int32_t>(r);
+    grid.rows[r] = {call(pair, &table::row_minimum, index), call(pair, &table::row_stretch, index)};
   }
-  const int gap_x = m.dlu_x(kGap);
-  const int gap_y = m.dlu_y(kGap);
-  auto fit_line = [](std::vector<track>& tracks, int first, int span, int need, bool grows,
-                     int gap) {
-    track& last = tracks[static_cast<std::size_t>(first + span - 1)];
-    tracks[static_cast<std::size_t>(first)].used = true;
-    last.used = true;
-    last.grows = last.grows || grows;
-    const std::vector<track> covered(tracks.begin() + first, tracks.begin() + first + span);
-    const int lacking = need - total(covered, gap);
-    if (lacking > 0) last.size += lacking;
-  };
-  // Single cells first, so that a spanning cell only adds what they leave lacking.
-  for (int pass = 0; pass < 2; ++pass) {
-    for (std::size_t i = 0; i < node.children.size(); ++i) {
-      const window_node& child = *node.children[i];
-      const size_request& r = requests[i];
-      if (r.width == 0 && r.height == 0) continue;
-      const bool spans = child.column_span > 1 || child.row_span > 1;
-      if ((pass == 0) == spans) continue;
-      fit_line(across, child.column, child.column_span, r.width, r.grows_across, gap_x);
-      fit_line(down, child.row, child.row_span, r.height, r.grows_down, gap_y);
-    }
-  }
+  grid.gap_x = m.dlu_x(kGap);
+  grid.gap_y = m.dlu_y(kGap);
+  return grid;
 }
 
-struct edges {
-  int start = 0;
-  int end = 0;
-};
-
-// Where each line starts and ends, from `origin`, with `gap` between lines that hold content.
-std::vector<edges> positions(const std::vector<track>& tracks, int origin, int gap) {
-  std::vector<edges> at(tracks.size());
-  int x = origin;
-  bool any = false;
-  for (std::size_t i = 0; i < tracks.size(); ++i) {
-    if (tracks[i].used && any) x += gap;
-    at[i].start = x;
-    if (tracks[i].used) {
-      x += tracks[i].size;
-      any = true;
-    }
-    at[i].end = x;
+// The grid's cells: where each child stands and what it asks for.
+std::vector<window_logic::grid_cell> grid_cells(const window_node& node, const metrics& m) {
+  std::vector<window_logic::grid_cell> cells;
+  cells.reserve(node.children.size());
+  for (const auto& child : node.children) {
+    const size_request r = request(*child, m);
+    cells.push_back({child->row, child->column, child->row_span, child->column_span, r.width,
+                     r.height, r.grows_across, r.grows_down});
   }
-  return at;
+  return cells;
 }
 
 }  // namespace
@@ -143,8 +74,11 @@ size_request request(const window_node& node, const metrics& m) {
       inner.height += m.dlu_y(kGroupTop) + m.dlu_y(kGroupBottom);
       return inner;
     }
-    case element_kind::grid:
-      break;
+    case element_kind::grid: {
+      const window_logic::grid_request r =
+          window_logic::request_grid(grid_lines(node, m), grid_cells(node, m));
+      return {r.width, r.height, r.grows_across, r.grows_down};
+    }
     default: {
       // A stack's shown entry, the docker's content: one below the other.
       size_request all;
@@ -158,17 +92,6 @@ size_request request(const window_node& node, const metrics& m) {
       return all;
     }
   }
-  std::vector<size_request> requests;
-  for (const auto& child : node.children) requests.push_back(request(*child, m));
-  std::vector<track> across;
-  std::vector<track> down;
-  plan_grid(node, requests, m, across, down);
-  size_request result;
-  for (const track& t : across) result.grows_across = result.grows_across || t.grows;
-  for (const track& t : down) result.grows_down = result.grows_down || t.grows;
-  result.width = total(across, m.dlu_x(kGap));
-  result.height = total(down, m.dlu_y(kGap));
-  return result;
 }
 
 void place(window_node& node, const RECT& area, const metrics& m) {
@@ -193,8 +116,18 @@ void place(window_node& node, const RECT& area, const metrics& m) {
       for (const auto& child : node.children) place(*child, inner, m);
       return;
     }
-    case element_kind::grid:
-      break;
+    case element_kind::grid: {
+      // The cells of a grid that shrank without telling lie outside its lines: they stay put.
+      const std::vector<std::optional<window_logic::box>> cells =
+          window_logic::arrange_grid(grid_lines(node, m), grid_cells(node, m),
+                                     {static_cast<int>(area.left), static_cast<int>(area.top),
+                                      static_cast<int>(area.right), static_cast<int>(area.bottom)});
+      for (std::size_t i = 0; i < node.children.size() && i < cells.size(); ++i) {
+        if (const auto& b = cells[i])
+          place(*node.children[i], RECT{b->left, b->top, b->right, b->bottom}, m);
+      }
+      return;
+    }
     default: {
       int top = area.top;
       for (const auto& child : node.children) {
@@ -205,26 +138,6 @@ void place(window_node& node, const RECT& area, const metrics& m) {
       }
       return;
     }
-  }
-  // A grid: the tracks of its request, then the spare room spread over them.
-  std::vector<size_request> requests;
-  for (const auto& child : node.children) requests.push_back(request(*child, m));
-  std::vector<track> across;
-  std::vector<track> down;
-  plan_grid(node, requests, m, across, down);
-  const int gap_x = m.dlu_x(kGap);
-  const int gap_y = m.dlu_y(kGap);
-  spread(across, (area.right - area.left) - total(across, gap_x));
-  spread(down, (area.bottom - area.top) - total(down, gap_y));
-  const std::vector<edges> xs = positions(across, area.left, gap_x);
-  const std::vector<edges> ys = positions(down, area.top, gap_y);
-  for (const auto& child : node.children) {
-    const auto c = static_cast<std::size_t>(child->column);
-    const auto r = static_cast<std::size_t>(child->row);
-    const RECT cell{xs[c].start, ys[r].start,
-                    xs[c + static_cast<std::size_t>(child->column_span) - 1].end,
-                    ys[r + static_cast<std::size_t>(child->row_span) - 1].end};
-    place(*child, cell, m);
   }
 }
 

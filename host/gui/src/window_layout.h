@@ -3,7 +3,8 @@
 // controls' requests and the rows, columns, spans, minimums and stretch flags the plug-in sets on
 // its grids. A grid's columns (rows) are as wide (high) as their widest (highest) cell; spare room
 // goes to the lines that stretch and hold content that grows, else to those whose content grows,
-// so the outline takes what the window gains when it is resized.
+// so the outline takes what the window gains when it is resized. The arithmetic is the portable
+// grid_tracks (tx_host/window_logic); here it is fed from the nodes and applied to their windows.
 #pragma once
 
 #include <windows.h>
@@ -11,6 +12,7 @@
 #include <memory>
 #include <vector>
 
+#include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/elements.h"
 #include "tx_host/gui/control.h"
 
@@ -22,6 +24,9 @@ inline constexpr int layout_gap = 4;
 // One element of the dialog as the window shows it.
 struct window_node {
   dialog::element element;
+  // The element as described (its place, a grid's lines), without children: those are the
+  // node's own. Read again when the plug-in tells that the layout changed.
+  dialog::element_node described;
   // A grid's cells or a group box's and a stack's content.
   std::vector<std::unique_ptr<window_node>> children;
   // Where this node sits in its parent grid.

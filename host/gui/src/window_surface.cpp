@@ -1,6 +1,8 @@
 #include "tx_host/gui/window_surface.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "dialog_window.h"
 #include "field_controls.h"
@@ -9,7 +11,7 @@
 #include "outline_control.h"
 #include "screenshot.h"
 #include "toolbar_control.h"
-#include "tx_host/dialog/script_values.h"
+#include "tx_host/dialog/script_targets.h"
 #include "tx_host/dialog/vocabulary.h"
 
 namespace tx::host::gui {
@@ -17,11 +19,10 @@ namespace {
 
 using dialog::command;
 using dialog::command_outcome;
-using dialog::quoted;
+using dialog::done;
+using dialog::failure;
+using dialog::lookup;
 using dialog::verb;
-
-command_outcome failure(std::string error) { return {std::nullopt, {}, std::move(error)}; }
-command_outcome done() { return {}; }
 
 // A script's commands sent to the window's controls as a person's input would be.
 class window_surface final : public dialog::dialog_surface, private dialog::dialog_actions {
@@ -29,7 +30,9 @@ class window_surface final : public dialog::dialog_surface, private dialog::dial
   window_surface(tx_custom_pointer docker, tx_custom_pointer buttons, std::int32_t language,
                  window_options options)
       : options_(std::move(options)),
-        window_(docker, buttons, language, GetConsoleWindow()),
+        // The dialog has no owner: txhost has no window of its own to put it over (its console
+        // window is another process's, which the dialog must not disable).
+        window_(docker, buttons, language, nullptr),
         presenter_(window_.handle(), language, !options_.by_hand) {
     window_.pump();
   }
@@ -82,43 +85,26 @@ std::string window_surface::tools() {
 
 command_outcome window_surface::choose_operation(const std::string& operation) {
   dropdown_control* selector = window_.operation_selector();
-  if (selector == nullptr) return failure("the dialog has no operation selector");
-  if (!selector->enabled()) return failure("the operation selector is disabled");
-  const std::vector<std::string> items = selector->items();
-  const auto named = std::find(items.begin(), items.end(), operation);
-  int index = named != items.end() ? static_cast<int>(named - items.begin()) : -1;
-  if (index < 0) {
-    const std::optional<std::size_t> n = dialog::position(operation);
-    if (n && *n <= items.size()) index = static_cast<int>(*n - 1);
-  }
-  if (index < 0) return failure("no operation " + quoted(operation));
-  selector->choose(index);
+  std::optional<dialog::list_facts> facts;
+  if (selector != nullptr) facts = dialog::list_facts{selector->items(), selector->enabled()};
+  const lookup<std::size_t> item = dialog::find_operation(facts, operation);
+  if (!item) return failure(item.refused());
+  selector->choose(static_cast<int>(*item));
   return done();
 }
 
 command_outcome window_surface::set_field(const std::string& name, const std::string& value) {
-  const std::vector<field_control*> fields = window_.fields();
-  field_control* target = nullptr;
-  if (const std::optional<std::size_t> n = dialog::position(name)) {
-    if (*n > fields.size()) return failure("no field " + std::to_string(*n));
-    target = fields[*n - 1];
-  } else {
-    for (field_control* f : fields) {
-      if (dialog::bare(f->caption()) != dialog::bare(name)) continue;
-      if (target != nullptr) {
-        return failure("more than one field is captioned " + quoted(name) + ": give its number");
-      }
-      target = f;
-    }
-    if (target == nullptr) return failure("no field " + quoted(name));
+  const lookup<std::size_t> found = dialog::find_field(window_.field_facts(), name);
+  if (!found) return failure(found.refused());
+  if (const std::optional<dialog::refusal> refused = window_.fields()[*found]->enter(value, name)) {
+    return failure(*refused);
   }
-  if (!target->enabled()) return failure("field " + quoted(name) + " is disabled");
-  return failure(target->enter(value, name));
+  return done();
 }
 
 command_outcome window_surface::row_command(const command& c) {
   outline_control* outline = window_.outline();
-  if (outline == nullptr) return failure("the dialog has no outline");
+  if (outline == nullptr) return failure({dialog::refusal_reason::no_outline});
   const std::string& row = c.arguments.at(0);
   switch (c.what) {
     case verb::tick:
@@ -136,12 +122,18 @@ command_outcome window_surface::row_command(const command& c) {
 }
 
 command_outcome window_surface::click(const std::string& tool) {
-  std::string error = "no tool " + quoted(tool);
+  // Every toolbar's tools in one list, each with its toolbar and its place there.
+  std::vector<dialog::tool_values> tools;
+  std::vector<std::pair<toolbar_control*, std::size_t>> places;
   for (toolbar_control* toolbar : window_.toolbars()) {
-    error = toolbar->click(tool);
-    if (error.empty() || !error.starts_with("no tool ")) break;
+    std::vector<dialog::tool_values> own = toolbar->tools();
+    for (std::size_t i = 0; i < own.size(); ++i) places.emplace_back(toolbar, i);
+    std::move(own.begin(), own.end(), std::back_inserter(tools));
   }
-  return failure(std::move(error));
+  const lookup<std::size_t> found = dialog::find_tool(tools, tool);
+  if (!found) return failure(found.refused());
+  places[*found].first->click(places[*found].second);
+  return done();
 }
 
 command_outcome window_surface::press(const command& c) {
@@ -150,29 +142,11 @@ command_outcome window_surface::press(const command& c) {
     return done();
   }
   const std::vector<dialog_window::button> shown = window_.shown_buttons();
-  const dialog_window::button* target = nullptr;
-  if (c.what == verb::press) {
-    const std::string& wanted = c.arguments.at(0);
-    for (const dialog_window::button& b : shown) {
-      if (b.caption == wanted && target == nullptr) target = &b;
-    }
-    const std::optional<std::size_t> n = dialog::position(wanted);
-    if (target == nullptr && n && *n <= shown.size()) target = &shown[*n - 1];
-    if (target == nullptr) return failure("no button " + quoted(wanted));
-  } else {
-    const dialog::button_role role =
-        c.what == verb::accept ? dialog::button_role::accept : dialog::button_role::close;
-    for (const dialog_window::button& b : shown) {
-      if (dialog::role_of(b.caption, window_.language_offset()) == role && target == nullptr) {
-        target = &b;
-      }
-    }
-    if (target == nullptr) {
-      return failure(role == dialog::button_role::accept ? "the dialog has no accepting button"
-                                                         : "the dialog has no closing button");
-    }
-  }
-  SendMessageW(target->window, BM_CLICK, 0, 0);
+  std::vector<std::string> captions;
+  for (const dialog_window::button& b : shown) captions.push_back(b.caption);
+  const lookup<std::size_t> found = dialog::find_button(captions, c, window_.language_offset());
+  if (!found) return failure(found.refused());
+  SendMessageW(shown[*found].window, BM_CLICK, 0, 0);
   return done();
 }
 

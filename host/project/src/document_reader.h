@@ -4,9 +4,8 @@
 // arrays open around it, from which a refusal names its place as a JSON pointer.
 //
 // The first fault found is kept and the rest of the document is then only followed, not read:
-// the parse goes on to the end so that broken JSON further on is still told first, and the
-// project's format and version are still checked, so that a file of another format or a newer
-// version is told as such rather than by whatever else is wrong in it.
+// the parse goes on to the end so that broken JSON further on is still told first. The format
+// and version are the format watch's (format_watch.h), which the parser feeds beside this reader.
 #pragma once
 
 #include <cstddef>
@@ -18,45 +17,12 @@
 #include <string_view>
 #include <vector>
 
+#include "document_keys.h"
 #include "tx_host/project/entity_storage.h"
 #include "tx_host/project/nodes.h"
 #include "tx_host/project/project_file.h"
 
 namespace tx::host::detail {
-
-// The JSON types as messages name them.
-enum class json_type : std::uint8_t { object, array, string, boolean, integer, number, null };
-
-// What a value stands for in the document.
-enum class slot : std::uint8_t {
-  document,
-  format,
-  version,
-  caption,
-  options,
-  invert_layers,
-  scenes_2d,
-  scenes_3d,
-  layouts,
-  plugin_collections,
-  plugin_collection,
-  meta_id,
-  scenes,
-  scene,
-  uuid,
-  layers,
-  layer,
-  group,
-  expanded,
-  children,
-};
-
-struct field_spec {
-  std::string_view key;
-  slot what;
-  json_type type;
-  bool required;
-};
 
 class document_reader {
  public:
@@ -64,7 +30,8 @@ class document_reader {
   // from 0) and keeps where it stands: where a duplicate's first uuid is.
   explicit document_reader(std::optional<std::size_t> locate = std::nullopt);
 
-  // The parser's events. False stops the parse: only past a fault, in nesting too deep to follow.
+  // The parser's events. False stops the parse: only past a fault, in nesting too deep to follow,
+  // or once `locate` is found.
   bool StartObject();
   bool EndObject(unsigned members);
   bool StartArray();
@@ -73,16 +40,14 @@ class document_reader {
   bool String(const char* text, unsigned length, bool copy);
   bool Bool(bool value);
   bool Null();
-  bool Int(int value) { return integer(std::to_string(value)); }
-  bool Uint(unsigned value) { return integer(std::to_string(value)); }
-  bool Int64(std::int64_t value) { return integer(std::to_string(value)); }
-  bool Uint64(std::uint64_t value) { return integer(std::to_string(value)); }
-  bool Double(double value);
+  bool Int(int) { return integer(); }
+  bool Uint(unsigned) { return integer(); }
+  bool Int64(std::int64_t) { return integer(); }
+  bool Uint64(std::uint64_t) { return integer(); }
+  bool Double(double);
   bool RawNumber(const char*, unsigned, bool) { return false; }  // numbers are parsed
 
-  // The fault to tell, if any: a wrong format first, then a wrong version, then the first other.
-  const std::optional<project_file_error>& format_fault() const noexcept { return format_fault_; }
-  const std::optional<project_file_error>& version_fault() const noexcept { return version_fault_; }
+  // The first fault found, if any (the format and version are not this reader's).
   const std::optional<project_file_error>& fault() const noexcept { return fault_; }
   // For a duplicate uuid (the fault then ends "(first at "): the first element that has it.
   std::optional<std::size_t> duplicate_of() const noexcept { return duplicate_of_; }
@@ -97,7 +62,7 @@ class document_reader {
   struct frame {
     std::span<const field_spec> fields;  // an object's known keys; empty for an array
     slot what;
-    std::uint32_t seen = 0;                  // an object's keys read so far, one bit each
+    key_set seen{};                          // an object's keys read so far
     std::size_t key = 0;                     // an object's key being read, an index into `fields`
     std::size_t count = 0;                   // an array's elements begun
     tx_entity* entity = nullptr;             // whose caption and uuid an object holds
@@ -111,16 +76,17 @@ class document_reader {
 
   // The slot of the value now starting, once its type was checked; nullopt past a fault.
   std::optional<slot> begin_value(json_type type);
-  // Any integer, in decimal digits (only the version is one).
-  bool integer(const std::string& digits);
-  // The project's format and version, checked in every case (see above): `text` is a string's,
-  // `digits` an integer's.
-  void watch_top(json_type type, std::string_view text = {}, std::string_view digits = {});
+  // Any integer: only the version is one, and that is the format watch's.
+  bool integer();
+
+  // Objects and arrays (document_reader.cpp).
   void open_object(slot what);
   void open_array(slot what);
   void close_object();
   void start_layers(tx_lr_group& group, std::size_t level);
   void close_layers(const frame& layers);
+
+  // Texts and uuids (document_values.cpp).
   void read_text(slot what, std::string_view text);
   void read_uuid(std::string_view text);
   std::u16string_view keep_caption(std::string_view text);
@@ -130,8 +96,6 @@ class document_reader {
   std::string pointer_to_value() const { return pointer(frames_.size()); }
   std::string pointer_to_key(std::string_view key) const;
   void refuse(std::string where, std::string what);
-  static void keep_first(std::optional<project_file_error>& kept, std::string where,
-                         std::string what);
 
   std::unique_ptr<tx_prj> project_;
   entity_storage storage_;
@@ -141,15 +105,8 @@ class document_reader {
   std::vector<std::vector<tx_lr_group*>> pending_;
 
   std::size_t depth_ = 0;  // containers open, whether read or only followed
-  bool top_is_object_ = false;
-  slot top_key_ = slot::document;  // the key read last in the document's object
-  bool format_seen_ = false;
-  bool version_seen_ = false;
-
   bool faulted_ = false;
   std::size_t added_ = 0;  // elements added to the storage
-  std::optional<project_file_error> format_fault_;
-  std::optional<project_file_error> version_fault_;
   std::optional<project_file_error> fault_;
   std::optional<std::size_t> duplicate_of_;
   std::optional<std::size_t> locate_;

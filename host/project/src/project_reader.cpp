@@ -1,6 +1,7 @@
 // Reading a project file: the JSON parser streams the document into a document_reader, which
-// builds the project as it goes. A refusal names the file's place: the line and column of broken
-// JSON, or the JSON pointer of a value the project cannot take.
+// builds the project as it goes, and beside it into the format watch. A refusal names the file's
+// place: the line and column of broken JSON, or the JSON pointer of a value the project cannot
+// take.
 #include <rapidjson/error/en.h>
 #include <rapidjson/filereadstream.h>
 #include <rapidjson/memorystream.h>
@@ -13,12 +14,15 @@
 
 #include "c_file.h"
 #include "document_reader.h"
+#include "event_tee.h"
+#include "format_watch.h"
 #include "tx_host/project/project_file.h"
 
 namespace tx::host {
 namespace {
 
 using detail::document_reader;
+using detail::format_watch;
 
 // The parser checks that every string is UTF-8, and keeps its own stack rather than recursing,
 // so that no nesting can exhaust the thread's stack.
@@ -30,9 +34,11 @@ constexpr std::size_t read_buffer_size = 64 * 1024;
 // The parser takes a NUL byte for the end of the text, so a document that stops before the
 // last byte is followed by something else, which is refused.
 template <typename Stream>
-rapidjson::ParseResult parse_stream(Stream& stream, document_reader& reader, std::size_t size) {
+rapidjson::ParseResult parse_stream(Stream& stream, format_watch& watch, document_reader& reader,
+                                    std::size_t size) {
   rapidjson::Reader parser;
-  rapidjson::ParseResult result = parser.Parse<parse_flags>(stream, reader);
+  detail::event_tee<format_watch, document_reader> both(watch, reader);
+  rapidjson::ParseResult result = parser.Parse<parse_flags>(stream, both);
   if (!result.IsError() && stream.Tell() < size) {
     result.Set(rapidjson::kParseErrorDocumentRootNotSingular, stream.Tell());
   }
@@ -75,7 +81,7 @@ class document_source {
  public:
   virtual ~document_source() = default;
   // Offsets in the result count from the document's start.
-  virtual rapidjson::ParseResult parse(document_reader& reader) = 0;
+  virtual rapidjson::ParseResult parse(format_watch& watch, document_reader& reader) = 0;
   virtual std::string position(std::size_t offset) = 0;
 };
 
@@ -84,9 +90,9 @@ class text_source final : public document_source {
   explicit text_source(std::string_view text) : text_(text) {
     if (text_.starts_with(byte_order_mark)) text_.remove_prefix(byte_order_mark.size());
   }
-  rapidjson::ParseResult parse(document_reader& reader) override {
+  rapidjson::ParseResult parse(format_watch& watch, document_reader& reader) override {
     rapidjson::MemoryStream stream(text_.data(), text_.size());
-    return parse_stream(stream, reader, text_.size());
+    return parse_stream(stream, watch, reader, text_.size());
   }
   std::string position(std::size_t offset) override {
     text_position at;
@@ -102,10 +108,10 @@ class file_source final : public document_source {
  public:
   file_source(std::FILE* file, std::size_t size) : file_(file), size_(size) {}
 
-  rapidjson::ParseResult parse(document_reader& reader) override {
+  rapidjson::ParseResult parse(format_watch& watch, document_reader& reader) override {
     start();
     rapidjson::FileReadStream stream(file_, buffer_.data(), buffer_.size());
-    return parse_stream(stream, reader, size_ - skipped_);
+    return parse_stream(stream, watch, reader, size_ - skipped_);
   }
   std::string position(std::size_t offset) override {
     start();
@@ -139,18 +145,18 @@ class file_source final : public document_source {
 
 // The project read, or null with `error` set: broken JSON first, then a wrong format, a wrong
 // version, and the first other fault.
-std::unique_ptr<tx_prj> finish(document_source& source, document_reader& reader,
-                               const rapidjson::ParseResult& result, project_file_error& error,
-                               entity_storage* index) {
+std::unique_ptr<tx_prj> finish(document_source& source, const format_watch& watch,
+                               document_reader& reader, const rapidjson::ParseResult& result,
+                               project_file_error& error, entity_storage* index) {
   if (result.IsError() && result.Code() != rapidjson::kParseErrorTermination) {
     error = {source.position(result.Offset()), syntax_message(result.Code())};
     return nullptr;
   }
-  if (const auto& fault = reader.format_fault()) {
+  if (const auto& fault = watch.format_fault()) {
     error = *fault;
     return nullptr;
   }
-  if (const auto& fault = reader.version_fault()) {
+  if (const auto& fault = watch.version_fault()) {
     error = *fault;
     return nullptr;
   }
@@ -158,8 +164,10 @@ std::unique_ptr<tx_prj> finish(document_source& source, document_reader& reader,
     error = *fault;
     if (const std::optional<std::size_t> first = reader.duplicate_of()) {
       // Where the first element with the uuid stands: read the document again up to it.
+      // The format and version were found right on the first reading: not watched again.
       document_reader locator(*first);
-      source.parse(locator);
+      format_watch unused;
+      source.parse(unused, locator);
       error.what += locator.located().value_or("?") + ")";
     }
     return nullptr;
@@ -177,9 +185,10 @@ std::unique_ptr<tx_prj> finish(document_source& source, document_reader& reader,
 std::unique_ptr<tx_prj> parse_project(std::string_view text, project_file_error& error,
                                       entity_storage* index) {
   text_source source(text);
+  format_watch watch;
   document_reader reader;
-  const rapidjson::ParseResult result = source.parse(reader);
-  return finish(source, reader, result, error, index);
+  const rapidjson::ParseResult result = source.parse(watch, reader);
+  return finish(source, watch, reader, result, error, index);
 }
 
 std::unique_ptr<tx_prj> read_project_file(const std::filesystem::path& path,
@@ -201,13 +210,14 @@ std::unique_ptr<tx_prj> read_project_file(const std::filesystem::path& path,
     return nullptr;
   }
   file_source source(file.get(), static_cast<std::size_t>(size));
+  format_watch watch;
   document_reader reader;
-  const rapidjson::ParseResult result = source.parse(reader);
+  const rapidjson::ParseResult result = source.parse(watch, reader);
   if (source.failed()) {
     error = {"", "cannot be read"};
     return nullptr;
   }
-  return finish(source, reader, result, error, index);
+  return finish(source, watch, reader, result, error, index);
 }
 
 }  // namespace tx::host

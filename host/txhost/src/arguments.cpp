@@ -1,4 +1,4 @@
-#include "arguments.h"
+#include "tx_host/txhost/arguments.h"
 
 #include <algorithm>
 #include <array>

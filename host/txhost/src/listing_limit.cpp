@@ -1,4 +1,4 @@
-#include "listing_limit.h"
+#include "tx_host/txhost/listing_limit.h"
 
 namespace tx::host {
 namespace {

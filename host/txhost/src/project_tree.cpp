@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "listing_limit.h"
 #include "tx/host/txk_basic.h"
 #include "tx/host/txk_entity.h"
 #include "tx/host/txk_lr.h"
@@ -14,6 +13,7 @@
 #include "tx/host/txk_scn_3d.h"
 #include "tx_host/project/uuid_text.h"
 #include "tx_host/services/utf.h"
+#include "tx_host/txhost/listing_limit.h"
 
 namespace tx::host {
 namespace {

@@ -4,16 +4,16 @@
 #include <memory>
 #include <string_view>
 
-#include "listing_limit.h"
 #include "project_commands.h"
 #include "project_tree.h"
 #include "rename_catalogue.h"
-#include "saved_names.h"
-#include "step_timer.h"
 #include "tx/host/txk_prj.h"
 #include "tx/utility.h"
 #include "tx_host/dialog/command_source.h"
 #include "tx_host/dialog/modal_dialog_view.h"
+#include "tx_host/txhost/listing_limit.h"
+#include "tx_host/txhost/saved_names.h"
+#include "tx_host/txhost/step_timer.h"
 #ifdef _WIN32
 #include "tx_host/gui/window_surface.h"
 #endif

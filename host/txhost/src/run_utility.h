@@ -5,8 +5,8 @@
 
 #include <cstdio>
 
-#include "arguments.h"
 #include "tx_host/services/plugin_loader.h"
+#include "tx_host/txhost/arguments.h"
 
 namespace tx::host {
 

@@ -1,11 +1,11 @@
-#include "saved_names.h"
+#include "tx_host/txhost/saved_names.h"
 
 #include <algorithm>
 
-#include "listing_limit.h"
-#include "step_timer.h"
 #include "tx_host/project.h"
 #include "tx_host/services/utf.h"
+#include "tx_host/txhost/listing_limit.h"
+#include "tx_host/txhost/step_timer.h"
 
 namespace tx::host {
 namespace {

@@ -1,4 +1,4 @@
-#include "step_timer.h"
+#include "tx_host/txhost/step_timer.h"
 
 #include <string>
 

@@ -2,11 +2,8 @@
 
 #include <string_view>
 
-#include "arguments.h"
-#include "listing_limit.h"
 #include "project_tree.h"
 #include "run_utility.h"
-#include "step_timer.h"
 #include "tx/host/txk_prj.h"
 #include "tx_host/basic.h"
 #include "tx_host/msgs.h"
@@ -14,6 +11,9 @@
 #include "tx_host/services/plugin_loader.h"
 #include "tx_host/services/service_registry.h"
 #include "tx_host/services/utf.h"
+#include "tx_host/txhost/arguments.h"
+#include "tx_host/txhost/listing_limit.h"
+#include "tx_host/txhost/step_timer.h"
 
 namespace tx::host {
 namespace {

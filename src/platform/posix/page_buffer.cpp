@@ -1,8 +1,6 @@
 // Whole pages from an anonymous private mapping, returned with munmap.
 #include <sys/mman.h>
 
-#include <utility>
-
 #include "platform/platform.h"
 
 namespace tx::platform {
@@ -15,20 +13,6 @@ page_buffer::page_buffer(std::size_t size) noexcept {
   data_ = static_cast<std::uint8_t*>(pages);
   size_ = size;
 }
-
-page_buffer::page_buffer(page_buffer&& other) noexcept
-    : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)) {}
-
-page_buffer& page_buffer::operator=(page_buffer&& other) noexcept {
-  if (this != &other) {
-    release();
-    data_ = std::exchange(other.data_, nullptr);
-    size_ = std::exchange(other.size_, 0);
-  }
-  return *this;
-}
-
-page_buffer::~page_buffer() { release(); }
 
 void page_buffer::release() noexcept {
   if (data_ != nullptr) munmap(data_, size_);

@@ -1,6 +1,4 @@
 // Whole pages from VirtualAlloc, returned with VirtualFree.
-#include <utility>
-
 #include "platform/platform.h"
 #include "platform/win32/handles.h"
 
@@ -13,20 +11,6 @@ page_buffer::page_buffer(std::size_t size) noexcept {
   data_ = static_cast<std::uint8_t*>(pages);
   size_ = size;
 }
-
-page_buffer::page_buffer(page_buffer&& other) noexcept
-    : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)) {}
-
-page_buffer& page_buffer::operator=(page_buffer&& other) noexcept {
-  if (this != &other) {
-    release();
-    data_ = std::exchange(other.data_, nullptr);
-    size_ = std::exchange(other.size_, 0);
-  }
-  return *this;
-}
-
-page_buffer::~page_buffer() { release(); }
 
 void page_buffer::release() noexcept {
   if (data_ != nullptr) VirtualFree(data_, 0, MEM_RELEASE);

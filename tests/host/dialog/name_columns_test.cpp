@@ -7,6 +7,7 @@
 
 #include "element/project_rename_widget.h"
 #include "tx/toolkit/outline.h"
+#include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/elements.h"
 #include "tx_host/dialog/outline_reader.h"
 #include "tx_host/project.h"

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "dialog_window.h"
+#include "tx_host/services/utf.h"
 
 namespace tx::test {
 namespace {
@@ -198,6 +199,58 @@ TEST_F(outline_window, ADoubleClickOnANewNameEditsItInPlace) {
   pump();
   EXPECT_EQ(FindWindowExW(rows->list(), nullptr, L"EDIT", nullptr), nullptr);
   EXPECT_EQ(host::dialog::outline_reader(outline).cell(1, row("Переулки")), "Проезды");
+}
+
+TEST_F(outline_window, TheEditorKeepsOrDropsWhatWasTypedAsItIsLeft) {
+  enum class leave { enter, escape, focus_elsewhere, scroll };
+  struct leave_case {
+    leave how;
+    const wchar_t* typed;
+    bool kept;
+  };
+  const leave_case cases[] = {
+      {leave::enter, L"Проезды", true},
+      {leave::escape, L"Тупики", false},
+      {leave::focus_elsewhere, L"Аллеи", true},
+      {leave::scroll, L"Линии", true},
+  };
+  const host::dialog::outline_reader reader(outline);
+  for (const leave_case& c : cases) {
+    SCOPED_TRACE(static_cast<int>(c.how));
+    const std::string before = reader.cell(1, row("Переулки")).value_or("");
+    const std::vector<std::string> lines = window_rows();
+    const auto at = std::find(lines.begin(), lines.end(), line_of(lines, "Переулки"));
+    RECT cell{LVIR_LABEL, 1, 0, 0};
+    ASSERT_TRUE(SendMessageW(rows->list(), LVM_GETSUBITEMRECT, at - lines.begin() - 1,
+                             reinterpret_cast<LPARAM>(&cell)));
+    SendMessageW(rows->list(), WM_LBUTTONDBLCLK, MK_LBUTTON,
+                 MAKELPARAM((cell.left + cell.right) / 2, (cell.top + cell.bottom) / 2));
+    HWND edit = FindWindowExW(rows->list(), nullptr, L"EDIT", nullptr);
+    ASSERT_NE(edit, nullptr);
+    SendMessageW(edit, WM_CHAR, VK_BACK, 0);
+    for (const wchar_t* letter = c.typed; *letter != L'\0'; ++letter) {
+      SendMessageW(edit, WM_CHAR, *letter, 0);
+    }
+    switch (c.how) {
+      case leave::enter:
+        SendMessageW(edit, WM_KEYDOWN, VK_RETURN, 0);
+        break;
+      case leave::escape:
+        SendMessageW(edit, WM_KEYDOWN, VK_ESCAPE, 0);
+        break;
+      case leave::focus_elsewhere:
+        SetFocus(rows->list());
+        break;
+      case leave::scroll:
+        SendMessageW(rows->list(), WM_VSCROLL, SB_LINEDOWN, 0);
+        break;
+    }
+    pump();
+    EXPECT_EQ(FindWindowExW(rows->list(), nullptr, L"EDIT", nullptr), nullptr);
+    const std::string typed = host::to_utf8(reinterpret_cast<const char16_t*>(c.typed));
+    EXPECT_EQ(reader.cell(1, row("Переулки")).value_or(""), c.kept ? typed : before);
+    EXPECT_EQ(joined(window_rows()), joined(text_rows()));
+  }
 }
 
 TEST_F(outline_window, FaultyRowsAreRedAndTheLastStepsNamesBold) {

@@ -89,6 +89,18 @@ std::string document(std::string_view before, std::string_view scenes = "",
          R"(]},"scenes_3d":{"caption":"T","scenes":[]},"layouts":{"caption":"L","scenes":[]}})";
 }
 
+// A scene whose layers are `levels` groups, each in the one before; the last one has no children.
+std::string nested_groups(int levels) {
+  std::string text = R"({"uuid":"1","caption":"s","layers":[)";
+  for (int level = 1; level <= levels; ++level) {
+    text += R"({"uuid":")" + std::to_string(level + 1) +
+            R"(","caption":"g","group":true,"expanded":true)";
+    text += level < levels ? R"(,"children":[)" : "}";
+  }
+  for (int level = 1; level < levels; ++level) text += "]}";
+  return text + "]}";
+}
+
 struct document_case {
   const char* name;
   std::string text;
@@ -122,6 +134,30 @@ const std::vector<document_case> streamed_documents = {
     {"deep nesting that never ends", std::string(100000, '['), "",
      "expected an object, found an array"},
     {"a byte order mark", "\xEF\xBB\xBF" + document(""), "", ""},
+    {"bytes that are not UTF-8", document("\"caption\":\"Pr\xC3\x28\","), "line 1, column 15",
+     "invalid encoding in string"},
+    {"a second document after the first", document("") + "\n{}", "line 2, column 1",
+     "the document root must not be followed by other values"},
+    // The order of the faults: broken JSON, then the format, then the version, then the rest.
+    {"a wrong format before a newer version", R"({"version":2,"format":"qgis-project","colour":1})",
+     "/format", "unknown format \"qgis-project\" (expected \"tarvex-project\")"},
+    {"broken JSON after a wrong format", R"({"format":"qgis-project","version":2,)",
+     "line 1, column 38", "missing a name for object member"},
+    {"a version that is a fraction", document("", "", "1.0"), "/version",
+     "expected an integer, found a number"},
+    // Uuids: 1 to 16 hexadecimal digits of either case, leading zeros or not.
+    {"a uuid in both cases and with leading zeros",
+     document("", R"({"uuid":"A1","caption":"a"},{"uuid":"00a1","caption":"b"})"),
+     "/scenes_2d/scenes/1/uuid",
+     "duplicate uuid 00000000000000a1 (first at /scenes_2d/scenes/0/uuid)"},
+    {"a uuid of sixteen digits", document("", R"({"uuid":"FFFFFFFFFFFFFFFF","caption":"a"})"), "",
+     ""},
+    {"a uuid of seventeen digits", document("", R"({"uuid":"10000000000000000","caption":"a"})"),
+     "/scenes_2d/scenes/0/uuid",
+     "not a uuid: \"10000000000000000\" (expected 1 to 16 hexadecimal digits)"},
+    {"an empty uuid", document("", R"({"uuid":"","caption":"a"})"), "/scenes_2d/scenes/0/uuid",
+     "not a uuid: \"\" (expected 1 to 16 hexadecimal digits)"},
+    {"groups nested 100 levels deep", document("", nested_groups(100)), "", ""},
 };
 
 TEST(ProjectFileRefusals, StreamedDocumentsAreToldInOrderAndByTheirPlace) {

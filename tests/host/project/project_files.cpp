@@ -5,6 +5,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "tx_host/project.h"
+
 namespace tx::host::testing {
 
 std::string utf8(const std::filesystem::path& path) {
@@ -30,6 +32,15 @@ std::filesystem::path scratch_folder() {
 std::string read_file(const std::filesystem::path& path) {
   std::ifstream in(path, std::ios::binary);
   return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+std::string refusal_of(const std::filesystem::path& folder, const std::string& document) {
+  const std::filesystem::path file = folder / "project.json";
+  std::ofstream(file, std::ios::binary | std::ios::trunc) << document;
+  const std::string path = utf8(file);
+  if (tx_host_project_load(path.c_str())) return {};
+  const std::string error = tx_host_project_error();
+  return error.starts_with(path + ": ") ? error.substr(path.size() + 2) : "?" + error;
 }
 
 }  // namespace tx::host::testing

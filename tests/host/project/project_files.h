@@ -24,6 +24,10 @@ std::string utf8(const std::filesystem::path& path);
 // The whole content of a file, or empty when it cannot be read.
 std::string read_file(const std::filesystem::path& path);
 
+// What opening `document` (written to project.json in `folder`) is refused with, after the
+// file's name: "WHERE: WHAT", or "WHAT" when the whole file is meant; empty when it opens.
+std::string refusal_of(const std::filesystem::path& folder, const std::string& document);
+
 // A caption fetched through a string adapter into the caller's string, which starts out as
 // "<untouched>" (so that a getter that writes nothing is seen).
 template <typename Handle>

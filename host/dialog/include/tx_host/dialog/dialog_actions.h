@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "tx_host/dialog/refusal.h"
 #include "tx_host/dialog/script.h"
 
 namespace tx::host::dialog {
@@ -19,6 +20,12 @@ struct command_outcome {
   // Why the command could not be done; empty when it was.
   std::string error;
 };
+
+// A command refused: with the error line's text, or with a reason found by script_targets.h.
+command_outcome failure(std::string error);
+command_outcome failure(const refusal& why);
+// A command done; nothing to tell.
+inline command_outcome done() { return {}; }
 
 class dialog_actions {
  public:

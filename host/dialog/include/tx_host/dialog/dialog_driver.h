@@ -48,7 +48,5 @@ class dialog_driver final : public dialog_actions {
 // row at `address` of `outline`, refused as a user could not do it; the error, empty when done.
 std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view address,
                        std::string_view text);
-// Clicks the tool `tool` (by id, else by caption) of `toolbars`; the error, empty when done.
-std::string click_tool(const std::vector<tx_custom_pointer>& toolbars, std::string_view tool);
 
 }  // namespace tx::host::dialog

@@ -1,6 +1,6 @@
 // The host's reading of the element tree a plug-in describes: what an element is (asked through
-// its root, by interface name), its texts (through string visitors), and a walk over the tree
-// in the order the dialog shows it. Everything here goes through the SDK's interfaces alone.
+// its root, by interface name), and its texts (through string visitors). The tree of elements is
+// element_tree.h's. Everything here goes through the SDK's interfaces alone.
 #pragma once
 
 #include <cstdint>
@@ -79,33 +79,5 @@ class element_collector final : public interface_object {
   std::span<const interface_entry> interfaces() const noexcept override;
   std::vector<tx_custom_pointer> elements_;
 };
-
-// What a walk reports, in the order the dialog shows it.
-class element_listener {
- public:
-  // A group box starts (its content follows) and ends.
-  virtual void enter_group(const element&) {}
-  virtual void leave_group(const element&) {}
-  // A grid or a stack, before its cells or entries.
-  virtual void layout(const element&) {}
-  // Any other element: a field, a label, a picture, an outline, a toolbar, or an unknown one.
-  virtual void leaf(const element&) {}
-
- protected:
-  element_listener() = default;
-  ~element_listener() = default;
-};
-
-enum class walk_scope {
-  // What the dialog shows: a stack's shown entry only, no hidden element.
-  shown,
-  // Every element the plug-in describes: all entries of every stack, hidden ones too.
-  all,
-};
-
-// Walks `root` (any element pair) depth first: grids cell by cell, row by row; a group box's
-// content; a stack's entries as `scope` says. Nesting deeper than a sane dialog's (a layout that
-// contains itself) is cut off.
-void walk(tx_custom_pointer root, element_listener& listener, walk_scope scope);
 
 }  // namespace tx::host::dialog

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "tx/abi.h"
+#include "tx_host/dialog/row_format.h"
 
 namespace tx::host::dialog {
 
@@ -30,8 +31,12 @@ class outline_reader {
 
   // The row's text in the first column: what names the row in a script.
   std::string caption(tx_custom_pointer row) const;
+  // A cell's and a column header's text, in UTF-8; nothing when there is none.
   std::optional<std::string> cell(std::size_t column, tx_custom_pointer row) const;
   std::optional<std::string> header(std::size_t column) const;
+  // The same in UTF-16, as a native list shows them.
+  std::optional<std::u16string> wide_cell(std::size_t column, tx_custom_pointer row) const;
+  std::optional<std::u16string> wide_header(std::size_t column) const;
 
   bool selected(tx_custom_pointer row) const noexcept;
   bool expanded(tx_custom_pointer row) const noexcept;
@@ -40,6 +45,10 @@ class outline_reader {
   bool check_enabled(tx_custom_pointer row) const noexcept;
   bool editable(std::size_t column, tx_custom_pointer row) const noexcept;
   bool emphasized(std::size_t column, tx_custom_pointer row) const noexcept;
+  // Whether the row has rows under it and whether they are shown.
+  row_expander expander(tx_custom_pointer row) const noexcept;
+  // The first column whose cell in `row` the user may edit; nothing when none.
+  std::optional<std::size_t> first_editable(tx_custom_pointer row) const noexcept;
 
  private:
   tx_custom_pointer outline_;

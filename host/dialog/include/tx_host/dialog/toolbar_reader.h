@@ -38,6 +38,8 @@ class tool_collector final : public interface_object {
 std::vector<tool_entry> tools_of(tx_custom_pointer toolbar);
 
 // What the text host shows of each tool of `toolbar`, in toolbar order.
+// What one tool shows, read from it.
+tool_values values_of(const tool_entry& tool);
 std::vector<tool_values> tool_values_of(tx_custom_pointer toolbar);
 
 // One line a tool, in toolbar order: "ID: «CAPTION», image 16×16" or "…, no image", with

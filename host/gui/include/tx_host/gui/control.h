@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "tx_host/dialog/vocabulary.h"
+#include "tx_host/window_logic/dialog_units.h"
 
 namespace tx::host::gui {
 
@@ -27,8 +28,8 @@ struct metrics {
   HFONT bold_font = nullptr;  // the same, bold (emphasized outline cells); borrowed
   int base_x = 8;             // average character width, pixels
   int base_y = 16;            // character height, pixels
-  int dlu_x(int units) const noexcept { return MulDiv(units, base_x, 4); }
-  int dlu_y(int units) const noexcept { return MulDiv(units, base_y, 8); }
+  int dlu_x(int units) const noexcept { return window_logic::dialog_units_x(units, base_x); }
+  int dlu_y(int units) const noexcept { return window_logic::dialog_units_y(units, base_y); }
 };
 
 // What a control asks of the layout: its smallest comfortable size, and whether it takes extra
@@ -71,6 +72,10 @@ class control {
  protected:
   control() = default;
 };
+
+// Offers the parent's WM_COMMAND or WM_NOTIFY (`message` with its parameters) to `c`: true when
+// `c` handled it, with `result` its answer. Any other message is no control's.
+bool offer_message(control& c, UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
 
 // A plain top-level window of the dialog's colour, `width` × `height` and not yet shown, that
 // offers its WM_COMMAND and WM_NOTIFY to the controls in `controls` (which must outlive it): where

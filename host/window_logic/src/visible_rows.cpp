@@ -1,9 +1,9 @@
-#include "visible_rows.h"
+#include "tx_host/window_logic/visible_rows.h"
 
 #include "tx/toolkit/outline.h"
 #include "tx_host/services/interface_object.h"
 
-namespace tx::host::gui {
+namespace tx::host::window_logic {
 namespace {
 
 using outline_table = tx_outline_interface_32;
@@ -85,4 +85,4 @@ std::optional<std::size_t> visible_rows::find(tx_custom_pointer row) const noexc
   return std::nullopt;
 }
 
-}  // namespace tx::host::gui
+}  // namespace tx::host::window_logic

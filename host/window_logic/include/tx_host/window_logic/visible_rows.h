@@ -1,7 +1,7 @@
 // The rows an outline shows, flattened in display order with their depth: what a virtual list
 // needs to answer "row N" in constant time. Rebuilt in one walk when the plug-in redraws (its row
 // pairs are then no longer valid); expanding or collapsing one row splices that row's subtree in
-// or out, in time linear in the rows shown.
+// or out, in time linear in the rows shown. The outline is read through its interface only.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 #include "tx/abi.h"
 
-namespace tx::host::gui {
+namespace tx::host::window_logic {
 
 struct visible_row {
   tx_custom_pointer row{};  // valid until the outline tells that its rows changed
@@ -53,4 +53,4 @@ class visible_rows {
   std::vector<visible_row> rows_;
 };
 
-}  // namespace tx::host::gui
+}  // namespace tx::host::window_logic
