@@ -5,21 +5,15 @@
 #include "project_tree.h"
 #include "tx/host/txk_entity.h"
 #include "tx/host/txk_prj.h"
+#include "tx_host/dialog/dialog_actions.h"
+#include "tx_host/dialog/script_values.h"
 #include "tx_host/project.h"
 #include "tx_host/project/uuid_text.h"
 
 namespace tx::host {
-namespace {
 
-dialog::command_outcome failure(std::string error) { return {std::nullopt, {}, std::move(error)}; }
-
-std::string quoted(std::string_view text) {
-  std::string out(1, '"');
-  out.append(text).push_back('"');
-  return out;
-}
-
-}  // namespace
+using dialog::failure;
+using dialog::quoted;
 
 dialog::command_outcome project_commands::run(const dialog::command& c) {
   if (c.what != dialog::verb::remove) return failure("not a command for the host");

@@ -11,6 +11,7 @@
 #include "tx/host/txk_prj.h"
 #include "tx/host/txk_scn_2d.h"
 #include "tx/host/txk_scn_3d.h"
+#include "tx_host/dialog/script_values.h"
 #include "tx_host/project/uuid_text.h"
 #include "tx_host/services/utf.h"
 #include "tx_host/txhost/listing_limit.h"
@@ -34,9 +35,7 @@ std::string caption_text(Handle* handle, void (*get)(Handle*, tx_string_adp*)) {
 // The same, quoted.
 template <typename Handle>
 std::string caption_of(Handle* handle, void (*get)(Handle*, tx_string_adp*)) {
-  std::string quoted(1, '"');
-  quoted.append(caption_text(handle, get)).push_back('"');
-  return quoted;
+  return dialog::quoted(caption_text(handle, get));
 }
 
 std::string uuid_of(tx_entities* holder) {
