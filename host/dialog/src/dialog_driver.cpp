@@ -206,16 +206,14 @@ std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view ad
       break;
     }
     default: {
-      for (std::size_t column = 0; column < reader.columns().size(); ++column) {
-        if (!reader.editable(column, row)) continue;
-        // Esc drops what was typed: the cell keeps its text.
-        if (what == verb::escape) return {};
-        const std::u16string typed = to_utf16(text);
-        call(reader.columns()[column], &tx_string_outline_column_interface_10::set_text, row,
-             typed.c_str());
-        return {};
-      }
-      return message({refusal_reason::no_editable_cell, std::string(address)});
+      const std::optional<std::size_t> column = reader.first_editable(row);
+      if (!column) return message({refusal_reason::no_editable_cell, std::string(address)});
+      // Esc drops what was typed: the cell keeps its text.
+      if (what == verb::escape) return {};
+      const std::u16string typed = to_utf16(text);
+      call(reader.columns()[*column], &tx_string_outline_column_interface_10::set_text, row,
+           typed.c_str());
+      return {};
     }
   }
   return {};

@@ -25,7 +25,6 @@
 #include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/element_views.h"
 #include "tx_host/dialog/elements.h"
-#include "tx_host/dialog/script_targets.h"
 #include "tx_host/gui/control.h"
 #include "win32_handles.h"
 #include "window_layout.h"
@@ -72,8 +71,6 @@ class dialog_window {
     std::int32_t index;
   };
   std::vector<button> shown_buttons() const;
-  // The fields as a script finds them, in the order of fields().
-  std::vector<dialog::field_facts> field_facts() const;
 
   // Catches up with elements the plug-in added since (hands them their views).
   void attach_views() { views_.attach(docker_); }

@@ -50,26 +50,26 @@ void dialog_window::build_buttons() {
 
 std::unique_ptr<window_node> dialog_window::build_node(dialog::element_node described) {
   auto node = std::make_unique<window_node>();
-  node->element = described.element;
-  node->row = described.cell.row;
-  node->column = described.cell.column;
-  node->row_span = described.cell.row_span;
-  node->column_span = described.cell.column_span;
-  const dialog::element& e = node->element;
+  std::vector<dialog::element_node> children = std::move(described.children);
+  described.children.clear();
+  node->described = std::move(described);
+  const dialog::element& e = node->element();
   switch (e.kind) {
     case element_kind::grid:
     case element_kind::stack:
     case element_kind::docker:
-      build_children(*node, std::move(described.children));
+      build_children(*node, std::move(children));
       break;
     case element_kind::groupbox: {
       const std::optional<std::string> caption = dialog::collect_text([&e](tx_custom_pointer v) {
         return call(e.pair, &tx_groupbox_interface_92::caption, v);
       });
-      node->frame = make_child(window_, L"BUTTON", caption.value_or(""), BS_GROUPBOX, metrics_);
-      build_children(*node, std::move(described.children));
+      node->frame.reset(
+          make_child(window_, L"BUTTON", caption.value_or(""), BS_GROUPBOX, metrics_));
+      build_children(*node, std::move(children));
       // Under the controls it frames.
-      SetWindowPos(node->frame, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+      SetWindowPos(node->frame.get(), HWND_BOTTOM, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
       break;
     }
     case element_kind::outline:
@@ -86,8 +86,6 @@ std::unique_ptr<window_node> dialog_window::build_node(dialog::element_node desc
     node->shown = dialog::element_visible(e);
     if (!node->shown) node->leaf->show(false);
   }
-  node->described = std::move(described);
-  node->described.children.clear();
   return node;
 }
 
@@ -98,13 +96,13 @@ void dialog_window::build_children(window_node& node, std::vector<dialog::elemen
 }
 
 void dialog_window::register_node(window_node& node) {
-  nodes_[node.element.pair.object] = &node;
-  if (node.element.kind == element_kind::outline) {
-    const dialog::outline_reader reader(node.element.pair);
+  nodes_[node.element().pair.object] = &node;
+  if (node.element().kind == element_kind::outline) {
+    const dialog::outline_reader reader(node.element().pair);
     for (const tx_custom_pointer column : reader.columns()) nodes_[column.object] = &node;
     if (present(reader.checks())) nodes_[reader.checks().object] = &node;
-  } else if (node.element.kind == element_kind::toolbar) {
-    for (const dialog::tool_entry& t : dialog::tools_of(node.element.pair)) {
+  } else if (node.element().kind == element_kind::toolbar) {
+    for (const dialog::tool_entry& t : dialog::tools_of(node.element().pair)) {
       nodes_[t.tool.object] = &node;
     }
   }
@@ -120,7 +118,7 @@ void dialog_window::align_captions() {
     for (const auto& child : node.children) {
       if (auto* field = dynamic_cast<field_control*>(child->leaf.get())) {
         const int width = field->caption_width(metrics_);
-        if (child->column == 0) {
+        if (child->described.cell.column == 0) {
           first_column.push_back(field);
           widest = std::max(widest, width);
         } else {

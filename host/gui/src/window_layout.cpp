@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "native.h"
-#include "tx/toolkit/layout.h"
 #include "tx_host/window_logic/grid_tracks.h"
 
 namespace tx::host::gui {
@@ -11,33 +10,21 @@ namespace {
 
 using dialog::element_kind;
 
-// More lines than any real grid.
-constexpr std::int32_t kMaxLines = 64;
 constexpr int kGap = layout_gap;
 // A group box's insets: its caption above the content.
 constexpr int kGroupTop = 11;
 constexpr int kGroupSide = 6;
 constexpr int kGroupBottom = 6;
 
-// A grid's lines as its element sets them, with the gaps between them: the one place the layout
-// asks the plug-in about a grid, so that sizing and placing work from the same counts.
+// A grid's lines as its description has them, with the gaps between them: the layout sizes
+// and places a grid by the same lines its cells were built for.
 window_logic::grid_spec grid_lines(const window_node& node, const metrics& m) {
-  using table = tx_grid_layout_interface_91;
-  const tx_custom_pointer pair = node.element.pair;
   window_logic::grid_spec grid;
-  grid.columns.resize(
-      static_cast<std::size_t>(std::clamp(call(pair, &table::column_count), 0, kMaxLines)));
-  grid.rows.resize(
-      static_cast<std::size_t>(std::clamp(call(pair, &table::row_count), 0, kMaxLines)));
-  for (std::size_t c = 0; c < grid.columns.size(); ++c) {
-    const auto index = static_cast<std::int32_t>(c);
-    grid.columns[c] = {call(pair, &table::column_minimum, index),
-                       call(pair, &table::column_stretch, index)};
+  for (const dialog::grid_line& c : node.described.columns) {
+    grid.columns.push_back({c.minimum, c.stretch});
   }
-  for (std::size_t r = 0; r < grid.rows.size(); ++r) {
-    const auto index = static_cast<std::int32_t>(r);
-    grid.rows[r] = {call(pair, &table::row_minimum, index), call(pair, &table::row_stretch, index)};
-  }
+  for (const dialog::grid_line& r : node.described.rows)
+    grid.rows.push_back({r.minimum, r.stretch});
   grid.gap_x = m.dlu_x(kGap);
   grid.gap_y = m.dlu_y(kGap);
   return grid;
@@ -49,28 +36,24 @@ std::vector<window_logic::grid_cell> grid_cells(const window_node& node, const m
   cells.reserve(node.children.size());
   for (const auto& child : node.children) {
     const size_request r = request(*child, m);
-    cells.push_back({child->row, child->column, child->row_span, child->column_span, r.width,
-                     r.height, r.grows_across, r.grows_down});
+    const dialog::grid_cell& at = child->described.cell;
+    cells.push_back({at.row, at.column, at.row_span, at.column_span, r.width, r.height,
+                     r.grows_across, r.grows_down});
   }
   return cells;
 }
 
 }  // namespace
 
-window_node::~window_node() {
-  children.clear();
-  leaf.reset();
-  if (frame != nullptr) DestroyWindow(frame);
-}
-
 size_request request(const window_node& node, const metrics& m) {
   if (!node.shown) return {};
   if (node.leaf) return node.leaf->request(m);
-  switch (node.element.kind) {
+  switch (node.element().kind) {
     case element_kind::groupbox: {
       size_request inner = node.children.empty() ? size_request{} : request(*node.children[0], m);
-      inner.width = std::max(inner.width + 2 * m.dlu_x(kGroupSide),
-                             text_width(m, window_text(node.frame)) + m.dlu_x(2 * kGroupSide + 4));
+      inner.width =
+          std::max(inner.width + 2 * m.dlu_x(kGroupSide),
+                   text_width(m, window_text(node.frame.get())) + m.dlu_x(2 * kGroupSide + 4));
       inner.height += m.dlu_y(kGroupTop) + m.dlu_y(kGroupBottom);
       return inner;
     }
@@ -104,12 +87,12 @@ void place(window_node& node, const RECT& area, const metrics& m) {
     node.leaf->place(cell);
     return;
   }
-  switch (node.element.kind) {
+  switch (node.element().kind) {
     case element_kind::groupbox: {
       const size_request r = request(node, m);
       RECT frame = area;
       if (!r.grows_down) frame.bottom = std::min<LONG>(frame.bottom, frame.top + r.height);
-      MoveWindow(node.frame, frame.left, frame.top, frame.right - frame.left,
+      MoveWindow(node.frame.get(), frame.left, frame.top, frame.right - frame.left,
                  frame.bottom - frame.top, TRUE);
       const RECT inner{frame.left + m.dlu_x(kGroupSide), frame.top + m.dlu_y(kGroupTop),
                        frame.right - m.dlu_x(kGroupSide), frame.bottom - m.dlu_y(kGroupBottom)};

@@ -15,6 +15,7 @@
 #include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/elements.h"
 #include "tx_host/gui/control.h"
+#include "win32_handles.h"
 
 namespace tx::host::gui {
 
@@ -23,18 +24,17 @@ inline constexpr int layout_gap = 4;
 
 // One element of the dialog as the window shows it.
 struct window_node {
-  dialog::element element;
-  // The element as described (its place, a grid's lines), without children: those are the
-  // node's own. Read again when the plug-in tells that the layout changed.
+  // The element as described (what it is, its cell in its parent grid, a grid's lines), without
+  // children: those are the node's own. Read again when the plug-in tells that the layout
+  // changed.
   dialog::element_node described;
+  const dialog::element& element() const noexcept { return described.element; }
+  // A group box's frame: destroyed after the controls it frames.
+  unique_window frame;
   // A grid's cells or a group box's and a stack's content.
   std::vector<std::unique_ptr<window_node>> children;
-  // Where this node sits in its parent grid.
-  int row = 0, column = 0, row_span = 1, column_span = 1;
   std::unique_ptr<control> leaf;  // a field, label, outline, toolbar
-  HWND frame = nullptr;           // a group box's frame
   bool shown = true;
-  ~window_node();
 };
 
 // The smallest comfortable size of `node` and whether it takes extra room.

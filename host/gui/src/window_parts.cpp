@@ -45,8 +45,8 @@ std::string dialog_window::render() const {
       }
       return;
     }
-    if (node.element.kind == element_kind::groupbox) {
-      const std::string caption = window_text(node.frame);
+    if (node.element().kind == element_kind::groupbox) {
+      const std::string caption = window_text(node.frame.get());
       out.line(text::opening(caption.empty() ? std::nullopt : std::optional<std::string>(caption)));
       out.enter();
       for (const auto& child : node.children) self(self, *child);
@@ -74,19 +74,13 @@ std::vector<field_control*> dialog_window::fields() const {
   return found;
 }
 
-std::vector<dialog::field_facts> dialog_window::field_facts() const {
-  std::vector<dialog::field_facts> facts;
-  for (const field_control* f : fields()) facts.push_back({f->caption(), f->enabled()});
-  return facts;
-}
-
 dropdown_control* dialog_window::operation_selector() const {
   // The drop-down that comes right before the stacked panels.
   dropdown_control* last = nullptr;
   dropdown_control* selector = nullptr;
   auto visit = [&](auto&& self, const window_node& node) -> void {
     if (!node.shown || selector != nullptr) return;
-    if (node.element.kind == element_kind::stack && last != nullptr) {
+    if (node.element().kind == element_kind::stack && last != nullptr) {
       selector = last;
       return;
     }

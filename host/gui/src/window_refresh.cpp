@@ -33,7 +33,7 @@ void dialog_window::refresh_pending() {
   for (const auto& [element, what] : pending) {
     window_node* node = node_of(element);
     if (node == nullptr) continue;
-    const element_kind kind = node->element.kind;
+    const element_kind kind = node->element().kind;
     if ((kind == element_kind::stack || kind == element_kind::grid) &&
         (what & TX_CHANGED_LAYOUT) != 0) {
       for (auto& child : node->children) replaced.push_back(std::move(child));
@@ -43,10 +43,10 @@ void dialog_window::refresh_pending() {
       node->described.children.clear();
       rebuilt = true;
     } else if (kind == element_kind::groupbox && (what & TX_CHANGED_TEXTS) != 0) {
-      set_window_text(node->frame, dialog::collect_text([node](tx_custom_pointer v) {
-                                     return call(node->element.pair,
-                                                 &tx_groupbox_interface_92::caption, v);
-                                   }).value_or(""));
+      set_window_text(node->frame.get(), dialog::collect_text([node](tx_custom_pointer v) {
+                                           return call(node->element().pair,
+                                                       &tx_groupbox_interface_92::caption, v);
+                                         }).value_or(""));
     }
   }
   if (rebuilt) {
@@ -59,7 +59,7 @@ void dialog_window::refresh_pending() {
     if (node == nullptr || !node->leaf) continue;
     node->leaf->refresh(what);
     if ((what & TX_CHANGED_STATE) != 0) {
-      const bool visible = dialog::element_visible(node->element);
+      const bool visible = dialog::element_visible(node->element());
       if (visible != node->shown) {
         node->shown = visible;
         node->leaf->show(visible);

@@ -94,9 +94,12 @@ command_outcome window_surface::choose_operation(const std::string& operation) {
 }
 
 command_outcome window_surface::set_field(const std::string& name, const std::string& value) {
-  const lookup<std::size_t> found = dialog::find_field(window_.field_facts(), name);
+  const std::vector<field_control*> fields = window_.fields();
+  std::vector<dialog::field_facts> facts;
+  for (const field_control* f : fields) facts.push_back({f->caption(), f->enabled()});
+  const lookup<std::size_t> found = dialog::find_field(facts, name);
   if (!found) return failure(found.refused());
-  if (const std::optional<dialog::refusal> refused = window_.fields()[*found]->enter(value, name)) {
+  if (const std::optional<dialog::refusal> refused = fields[*found]->enter(value, name)) {
     return failure(*refused);
   }
   return done();

@@ -14,7 +14,7 @@
 
 namespace tx::host::dialog {
 
-// A grid's row or column as the plug-in sets it: its least size (dialog units) and whether it
+// A grid's row or column as the plug-in sets it: its least size (pixels) and whether it
 // takes spare room.
 struct grid_line {
   std::int32_t minimum = 0;
