@@ -135,8 +135,8 @@ command_outcome dialog_driver::set_field(const std::string& field, const std::st
 command_outcome dialog_driver::row_command(const command& c) {
   const dialog_parts parts(docker_);
   if (!present(parts.outline)) return failure({refusal_reason::no_outline});
-  return failure(act_on_row(parts.outline, c.what, c.arguments.at(0),
-                            c.arguments.size() > 1 ? c.arguments[1] : std::string()));
+  return outcome_of(act_on_row(parts.outline, c.what, c.arguments.at(0),
+                               c.arguments.size() > 1 ? c.arguments[1] : std::string()));
 }
 
 command_outcome dialog_driver::click(const std::string& tool) {
@@ -170,20 +170,20 @@ command_outcome dialog_driver::press(const command& c) {
   return done();
 }
 
-std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view address,
-                       std::string_view text) {
+std::optional<refusal> act_on_row(tx_custom_pointer outline, verb what, std::string_view address,
+                                  std::string_view text) {
   const outline_reader reader(outline);
   const found_row found = find_row(reader, address);
-  if (!present(found.row)) return found.error;
+  if (!present(found.row)) return found.refused;
   const tx_custom_pointer row = found.row;
   using table = tx_outline_interface_32;
   switch (what) {
     case verb::tick:
     case verb::untick: {
       const bool on = what == verb::tick;
-      if (!present(reader.checks())) return message({refusal_reason::no_check_boxes});
+      if (!present(reader.checks())) return refusal{refusal_reason::no_check_boxes};
       if (!reader.check_enabled(row)) {
-        return message({refusal_reason::box_fixed, std::string(address)});
+        return refusal{refusal_reason::box_fixed, std::string(address)};
       }
       if (reader.checked(row) != on) {
         call(reader.checks(), &tx_outline_checks_interface_1::set_checked, row, on);
@@ -200,23 +200,23 @@ std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view ad
     case verb::collapse: {
       const bool on = what == verb::expand;
       if (reader.row_count(row) == 0) {
-        return message({refusal_reason::no_rows_under, std::string(address)});
+        return refusal{refusal_reason::no_rows_under, std::string(address)};
       }
       if (reader.expanded(row) != on) call(outline, &table::set_expanded, row, on);
       break;
     }
     default: {
       const std::optional<std::size_t> column = reader.first_editable(row);
-      if (!column) return message({refusal_reason::no_editable_cell, std::string(address)});
+      if (!column) return refusal{refusal_reason::no_editable_cell, std::string(address)};
       // Esc drops what was typed: the cell keeps its text.
-      if (what == verb::escape) return {};
+      if (what == verb::escape) return std::nullopt;
       const std::u16string typed = to_utf16(text);
       call(reader.columns()[*column], &tx_string_outline_column_interface_10::set_text, row,
            typed.c_str());
-      return {};
+      return std::nullopt;
     }
   }
-  return {};
+  return std::nullopt;
 }
 
 }  // namespace tx::host::dialog

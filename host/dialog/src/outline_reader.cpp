@@ -225,7 +225,6 @@ std::optional<std::size_t> outline_reader::first_editable(tx_custom_pointer row)
 }
 
 found_row find_row(const outline_reader& reader, std::string_view address) {
-  const std::string named = quoted(address);
   row_finder path(reader);
   path.by_path(tx_custom_pointer{}, address);
   const std::vector<found_row>* matches = &path.matches();
@@ -234,15 +233,13 @@ found_row find_row(const outline_reader& reader, std::string_view address) {
     caption.by_caption(tx_custom_pointer{}, address);
     matches = &caption.matches();
   }
-  if (matches->empty()) return {{}, {}, "no row " + named};
-  if (matches->size() > 1) {
-    return {{}, {}, "more than one row answers to " + named + ": give its path, {N} for the N-th"};
-  }
+  const std::string named(address);
+  if (matches->empty()) return {{}, {}, refusal{refusal_reason::no_row, named}};
+  if (matches->size() > 1) return {{}, {}, refusal{refusal_reason::row_ambiguous, named}};
   found_row row = matches->front();
   for (const tx_custom_pointer above : row.ancestors) {
     if (!reader.expanded(above)) {
-      return {
-          {}, {}, "row " + named + " is hidden: \"" + reader.caption(above) + "\" is collapsed"};
+      return {{}, {}, refusal{refusal_reason::row_hidden, named, reader.caption(above)}};
     }
   }
   return row;

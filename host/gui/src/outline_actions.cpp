@@ -1,6 +1,6 @@
 // The outline control's script actions, which send the list view what a person's input would.
 #include "outline_control.h"
-#include "tx_host/dialog/script_values.h"
+#include "tx_host/dialog/refusal.h"
 #include "tx_host/services/interface_object.h"
 #include "tx_host/services/utf.h"
 
@@ -14,10 +14,13 @@ constexpr int kExpanderPart = -1;
 
 outline_control::target outline_control::find(std::string_view address) const {
   const dialog::found_row found = dialog::find_row(reader_, address);
-  if (!present(found.row)) return {std::nullopt, found.error};
+  if (!present(found.row)) return {std::nullopt, found.refused};
   const std::optional<std::size_t> position = rows_.find(found.row);
-  if (!position) return {std::nullopt, "row " + dialog::quoted(address) + " is not shown"};
-  return {position, {}};
+  if (!position) {
+    return {std::nullopt,
+            dialog::refusal{dialog::refusal_reason::row_not_shown, std::string(address)}};
+  }
+  return {position, std::nullopt};
 }
 
 POINT outline_control::point_at(std::size_t position, int part) const {
@@ -39,49 +42,50 @@ void outline_control::click(POINT at, WPARAM keys) const {
   SendMessageW(list(), WM_LBUTTONUP, keys, where);
 }
 
-std::string outline_control::tick(std::string_view address, bool on) {
+std::optional<dialog::refusal> outline_control::tick(std::string_view address, bool on) {
   const target t = find(address);
-  if (!t.position) return t.error;
-  if (!present(reader_.checks())) return "the rows have no check boxes";
+  if (!t.position) return t.refused;
+  if (!present(reader_.checks())) return dialog::refusal{dialog::refusal_reason::no_check_boxes};
   LVITEMW item{};
   item.mask = LVIF_IMAGE;
   item.iItem = static_cast<int>(*t.position);
   SendMessageW(list(), LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
   if (!box_enabled(item.iImage)) {
-    return "the box of row " + dialog::quoted(address) + " cannot be changed";
+    return dialog::refusal{dialog::refusal_reason::box_fixed, std::string(address)};
   }
   if (box_ticked(item.iImage) != on) click(point_at(*t.position, LVIR_ICON));
-  return {};
+  return std::nullopt;
 }
 
-std::string outline_control::select(std::string_view address, bool on) {
+std::optional<dialog::refusal> outline_control::select(std::string_view address, bool on) {
   const target t = find(address);
-  if (!t.position) return t.error;
+  if (!t.position) return t.refused;
   const bool now = SendMessageW(list(), LVM_GETITEMSTATE, *t.position, LVIS_SELECTED) != 0;
   if (now != on) {
     SendMessageW(list(), LVM_ENSUREVISIBLE, *t.position, FALSE);
     set_list_state(*t.position, on ? LVIS_SELECTED : 0, LVIS_SELECTED);
   }
-  return {};
+  return std::nullopt;
 }
 
-std::string outline_control::expand(std::string_view address, bool on) {
+std::optional<dialog::refusal> outline_control::expand(std::string_view address, bool on) {
   const target t = find(address);
-  if (!t.position) return t.error;
+  if (!t.position) return t.refused;
   const auto state =
       static_cast<UINT>(SendMessageW(list(), LVM_GETITEMSTATE, *t.position, LVIS_STATEIMAGEMASK));
   const dialog::row_expander shown = expander_of_image(state_image_of(state));
   if (shown == dialog::row_expander::none) {
-    return "row " + dialog::quoted(address) + " has no rows under it";
+    return dialog::refusal{dialog::refusal_reason::no_rows_under, std::string(address)};
   }
   if ((shown == dialog::row_expander::expanded) != on) click(point_at(*t.position, kExpanderPart));
-  return {};
+  return std::nullopt;
 }
 
-std::string outline_control::rename(std::string_view address, std::string_view text, bool enter) {
+std::optional<dialog::refusal> outline_control::rename(std::string_view address,
+                                                       std::string_view text, bool enter) {
   const target t = find(address);
-  if (!t.position) return t.error;
-  const std::string no_cell = "row " + dialog::quoted(address) + " has no cell that can be edited";
+  if (!t.position) return t.refused;
+  const dialog::refusal no_cell{dialog::refusal_reason::no_editable_cell, std::string(address)};
   if (!reader_.first_editable(rows_[*t.position].row)) return no_cell;
   // F2 edits the focused row: the focus moves there as Ctrl with an arrow key moves it.
   SendMessageW(list(), LVM_ENSUREVISIBLE, *t.position, FALSE);
@@ -98,7 +102,7 @@ std::string outline_control::rename(std::string_view address, std::string_view t
   while (PeekMessageW(&message, list(), close_editor_message_, close_editor_message_, PM_REMOVE)) {
     DispatchMessageW(&message);
   }
-  return {};
+  return std::nullopt;
 }
 
 }  // namespace tx::host::gui

@@ -51,11 +51,12 @@ class outline_control final : public control {
   void print(std::vector<std::string>& lines, const dialog::vocabulary& words) const override;
 
   // Script actions: `address` names a row as the text driver's find_row reads it.
-  std::string tick(std::string_view address, bool on);
-  std::string select(std::string_view address, bool on);
-  std::string expand(std::string_view address, bool on);
+  std::optional<dialog::refusal> tick(std::string_view address, bool on);
+  std::optional<dialog::refusal> select(std::string_view address, bool on);
+  std::optional<dialog::refusal> expand(std::string_view address, bool on);
   // Types `text` into the row's first editable cell, then presses Enter (or Esc).
-  std::string rename(std::string_view address, std::string_view text, bool enter);
+  std::optional<dialog::refusal> rename(std::string_view address, std::string_view text,
+                                        bool enter);
 
   // The list view.
   HWND list() const noexcept { return list_.get(); }
@@ -97,10 +98,10 @@ class outline_control final : public control {
   void fill_item(LVITEMW& item) const;
   LRESULT custom_draw(NMLVCUSTOMDRAW& draw) const;
 
-  // The list's position of the row `address` names, or the error text.
+  // The list's position of the row `address` names, or why there is none.
   struct target {
     std::optional<std::size_t> position;
-    std::string error;
+    std::optional<dialog::refusal> refused;
   };
   target find(std::string_view address) const;
   // Scrolls the row into view and answers the centre of its part (an LVIR_* value, or -1 for

@@ -1,7 +1,7 @@
 #include "screenshot.h"
 
-#include "gdiplus_session.h"
 #include "native.h"
+#include "tx_host/gui/gdiplus_session.h"
 
 // The GDI+ flat functions used beside starting it, as gdiplus.dll exports them.
 extern "C" {

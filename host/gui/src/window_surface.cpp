@@ -22,6 +22,7 @@ using dialog::command_outcome;
 using dialog::done;
 using dialog::failure;
 using dialog::lookup;
+using dialog::outcome_of;
 using dialog::verb;
 
 // A script's commands sent to the window's controls as a person's input would be.
@@ -112,15 +113,15 @@ command_outcome window_surface::row_command(const command& c) {
   switch (c.what) {
     case verb::tick:
     case verb::untick:
-      return failure(outline->tick(row, c.what == verb::tick));
+      return outcome_of(outline->tick(row, c.what == verb::tick));
     case verb::select:
     case verb::deselect:
-      return failure(outline->select(row, c.what == verb::select));
+      return outcome_of(outline->select(row, c.what == verb::select));
     case verb::expand:
     case verb::collapse:
-      return failure(outline->expand(row, c.what == verb::expand));
+      return outcome_of(outline->expand(row, c.what == verb::expand));
     default:
-      return failure(outline->rename(row, c.arguments.at(1), c.what == verb::rename));
+      return outcome_of(outline->rename(row, c.arguments.at(1), c.what == verb::rename));
   }
 }
 

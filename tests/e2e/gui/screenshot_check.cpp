@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <string>
 
-#include "gdiplus_session.h"
+#include "tx_host/gui/gdiplus_session.h"
 
 // The GDI+ flat functions used beside starting it, as gdiplus.dll exports them.
 extern "C" {

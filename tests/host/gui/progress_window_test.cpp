@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "dialog_window.h"
+#include "dialog_controls.h"
 #include "message_presenter.h"
 #include "screenshot.h"
 #include "tx/host/txk_msgs.h"

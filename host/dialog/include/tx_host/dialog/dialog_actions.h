@@ -26,6 +26,10 @@ command_outcome failure(std::string error);
 command_outcome failure(const refusal& why);
 // A command done; nothing to tell.
 inline command_outcome done() { return {}; }
+// Done, or refused for `why`.
+inline command_outcome outcome_of(const std::optional<refusal>& why) {
+  return why ? failure(*why) : done();
+}
 
 class dialog_actions {
  public:

@@ -45,8 +45,8 @@ class dialog_driver final : public dialog_actions {
 };
 
 // A row command (tick, untick, select, deselect, expand, collapse, rename with `text`) on the
-// row at `address` of `outline`, refused as a user could not do it; the error, empty when done.
-std::string act_on_row(tx_custom_pointer outline, verb what, std::string_view address,
-                       std::string_view text);
+// row at `address` of `outline`, refused as a user could not do it; nothing when done.
+std::optional<refusal> act_on_row(tx_custom_pointer outline, verb what, std::string_view address,
+                                  std::string_view text);
 
 }  // namespace tx::host::dialog

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "tx/abi.h"
+#include "tx_host/dialog/refusal.h"
 #include "tx_host/dialog/row_format.h"
 
 namespace tx::host::dialog {
@@ -60,8 +61,8 @@ class outline_reader {
 struct found_row {
   tx_custom_pointer row{};
   std::vector<tx_custom_pointer> ancestors;
-  // Why no row was found; empty when `row` is set.
-  std::string error;
+  // Why no row was found; nothing when `row` is set.
+  std::optional<refusal> refused;
 };
 
 // The row at `address`: a path of first-column captions from a top-level row joined by " / "

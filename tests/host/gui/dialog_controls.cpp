@@ -1,4 +1,4 @@
-#include "dialog_window.h"
+#include "dialog_controls.h"
 
 #include <filesystem>
 #include <fstream>
