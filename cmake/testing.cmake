@@ -23,16 +23,18 @@ if(CMAKE_CROSSCOMPILING)
   set_tests_properties(wine_stop PROPERTIES FIXTURES_CLEANUP WINE)
 endif()
 
-# tx_add_gtest(target sources... LIBRARIES libs...): one GoogleTest executable whose cases are
-# discovered as separate tests, run natively or under Wine.
+# tx_add_gtest(target sources... LIBRARIES libs... [PROPERTIES name value...]): one GoogleTest
+# executable whose cases are discovered as separate tests, run natively or under Wine, each with
+# the test properties given.
 function(tx_add_gtest target)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;PROPERTIES" ${ARGN})
   add_executable(${target} ${ARG_SOURCES} ${ARG_UNPARSED_ARGUMENTS})
   target_link_libraries(${target} PRIVATE GTest::gtest GTest::gtest_main tx_warnings ${ARG_LIBRARIES})
   if(CMAKE_CROSSCOMPILING)
     gtest_discover_tests(${target} DISCOVERY_TIMEOUT 120 DISCOVERY_MODE PRE_TEST
-      PROPERTIES FIXTURES_REQUIRED WINE)
+      PROPERTIES FIXTURES_REQUIRED WINE ${ARG_PROPERTIES})
   else()
-    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 DISCOVERY_MODE PRE_TEST)
+    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 DISCOVERY_MODE PRE_TEST
+      PROPERTIES ${ARG_PROPERTIES})
   endif()
 endfunction()

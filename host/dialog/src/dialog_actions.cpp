@@ -6,6 +6,11 @@ command_outcome failure(std::string error) { return {std::nullopt, {}, std::move
 
 command_outcome failure(const refusal& why) { return failure(message(why)); }
 
+command_outcome dialog_actions::keyboard(const command& c) {
+  std::string error(verb_name(c.what));
+  return failure(error.append(" needs the window's keyboard and mouse (txhost --gui)"));
+}
+
 command_outcome dispatch(dialog_actions& actions, const command& c) {
   switch (c.what) {
     case verb::print:
@@ -40,6 +45,11 @@ command_outcome dispatch(dialog_actions& actions, const command& c) {
       return {std::nullopt, {}, "this host deletes no project elements"};
     case verb::reopen:
       return {std::nullopt, {}, "reopen runs the utility again once its dialog has closed"};
+    case verb::keys:
+    case verb::type:
+    case verb::focus:
+    case verb::random_input:
+      return actions.keyboard(c);
   }
   return {std::nullopt, {}, "unknown command"};
 }

@@ -10,6 +10,7 @@
 #include "tx_host/dialog/button_reader.h"
 #include "tx_host/dialog/element_tree.h"
 #include "tx_host/dialog/elements.h"
+#include "tx_host/dialog/faulty_row.h"
 #include "tx_host/dialog/limits.h"
 #include "tx_host/dialog/outline_reader.h"
 #include "tx_host/dialog/script_targets.h"
@@ -167,6 +168,8 @@ command_outcome dialog_driver::press(const command& c) {
   if (!found) return failure(found.refused());
   const std::int32_t index = shown[*found].index;
   if (call(buttons_, &tx_button_box_interface_2::press, index)) return {index, {}, {}};
+  // Refused: the first faulty row, if any, is brought before the user.
+  if (const dialog_parts parts(docker_); present(parts.outline)) select_first_faulty(parts.outline);
   return done();
 }
 

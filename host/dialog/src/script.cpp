@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
+#include "tx_host/dialog/key_names.h"
 #include "tx_host/services/utf.h"
 
 namespace tx::host::dialog {
@@ -15,8 +17,8 @@ struct verb_entry {
   std::string_view summary;
 };
 
-const std::array<verb_entry, 21>& verbs() {
-  static const std::array<verb_entry, 21> table{{
+const std::array<verb_entry, 25>& verbs() {
+  static const std::array<verb_entry, 25> table{{
       {verb::print, "print", {}, "render the dialog now"},
       {verb::help, "help", {}, "list the commands"},
       {verb::op, "op", {"OPERATION"}, "choose the shown operation (caption or number)"},
@@ -38,6 +40,13 @@ const std::array<verb_entry, 21>& verbs() {
       {verb::screenshot, "screenshot", {"FILE"}, "save the dialog's window as a PNG (--gui)"},
       {verb::remove, "delete", {"ELEMENT"}, "the host deletes a project element (uuid or caption)"},
       {verb::reopen, "reopen", {}, "run the utility again (after its dialog closed)"},
+      {verb::keys, "keys", {"KEYS"}, "press keys, e.g. \"Tab Shift+Tab Alt+Down\" (--gui)"},
+      {verb::type, "type", {"TEXT"}, "type TEXT into the focused control (--gui)"},
+      {verb::focus, "focus", {}, "tell which control has the keyboard focus (--gui)"},
+      {verb::random_input,
+       "random-input",
+       {"COUNT", "SEED"},
+       "COUNT random keys and clicks from SEED (--gui)"},
   }};
   return table;
 }
@@ -120,7 +129,46 @@ std::string arity_error(const verb_entry& e, std::size_t given) {
   return message;
 }
 
+// Whether a number of decimal digits no greater than `most`; its value.
+std::optional<std::uint32_t> bounded_number(std::string_view text, std::uint32_t most) {
+  if (text.empty() || text.size() > 10) return std::nullopt;
+  std::uint64_t value = 0;
+  for (const char c : text) {
+    if (c < '0' || c > '9') return std::nullopt;
+    value = value * 10 + static_cast<std::uint64_t>(c - '0');
+  }
+  if (value > most) return std::nullopt;
+  return static_cast<std::uint32_t>(value);
+}
+
+// What is wrong with the arguments of a command that checks them before anything runs.
+std::string argument_error(verb what, const std::vector<std::string>& arguments) {
+  if (what == verb::keys) return parse_keys(arguments.at(0)).error;
+  if (what == verb::random_input) return read_random_input(arguments).error;
+  return {};
+}
+
 }  // namespace
+
+random_input_arguments read_random_input(const std::vector<std::string>& arguments) {
+  constexpr std::uint32_t kMostInputs = 1'000'000;
+  random_input_arguments result;
+  const std::optional<std::uint32_t> count = bounded_number(arguments.at(0), kMostInputs);
+  const std::optional<std::uint32_t> seed = bounded_number(arguments.at(1), 0xFFFF'FFFF);
+  if (!count || *count == 0) {
+    result.error.append("COUNT must be a whole number from 1 to 1000000, not '")
+        .append(arguments.at(0))
+        .append("'");
+  } else if (!seed) {
+    result.error.append("SEED must be a whole number from 0 to 4294967295, not '")
+        .append(arguments.at(1))
+        .append("'");
+  } else {
+    result.count = *count;
+    result.seed = *seed;
+  }
+  return result;
+}
 
 std::string_view verb_name(verb v) noexcept { return entry_of(v).name; }
 
@@ -145,11 +193,12 @@ parsed_line parse_line(std::string_view line, std::size_t number) {
   if (found == table.end()) return fail("unknown command '" + name + "' (help lists them)");
   const std::size_t given = words.words.size() - 1;
   if (given != found->arguments.size()) return fail(arity_error(*found, given));
-  result.parsed = command{found->what,
-                          {std::make_move_iterator(words.words.begin() + 1),
-                           std::make_move_iterator(words.words.end())},
-                          number,
-                          std::string(words.text)};
+  std::vector<std::string> arguments{std::make_move_iterator(words.words.begin() + 1),
+                                     std::make_move_iterator(words.words.end())};
+  if (std::string error = argument_error(found->what, arguments); !error.empty()) {
+    return fail(std::move(error));
+  }
+  result.parsed = command{found->what, std::move(arguments), number, std::string(words.text)};
   return result;
 }
 

@@ -8,13 +8,14 @@
 #include "tx_host/dialog/script_targets.h"
 #include "tx_host/dialog/text_renderer.h"
 #include "tx_host/services/utf.h"
+#include "window_access_keys.h"
 
 namespace tx::host::gui {
 
 checkbox_control::checkbox_control(HWND parent, const dialog::element& e, const metrics& m)
     : field_control(parent, e, m) {
-  box_.reset(make_child(parent, L"BUTTON", dialog::field_caption(e).value_or(""),
-                        BS_AUTOCHECKBOX | WS_TABSTOP, m));
+  // The caption carries the access key, which ticks the box as a click does.
+  box_.reset(make_child(parent, L"BUTTON", "", BS_AUTOCHECKBOX | WS_TABSTOP, m));
   tip_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0,
                              0, 0, 0, parent, nullptr, GetModuleHandleW(nullptr), nullptr));
   refresh(TX_CHANGED_VALUE | TX_CHANGED_TEXTS | TX_CHANGED_STATE);
@@ -22,8 +23,7 @@ checkbox_control::checkbox_control(HWND parent, const dialog::element& e, const 
 
 size_request checkbox_control::request(const metrics& m) const {
   // The box and its gap take 12 dialog units before the text.
-  return {m.dlu_x(12) + text_width(m, window_text(box_.get())), m.dlu_y(kCheckHeightDlu), false,
-          false};
+  return {m.dlu_x(12) + text_width(m, caption()), m.dlu_y(kCheckHeightDlu), false, false};
 }
 
 void checkbox_control::place(const RECT& area) {
@@ -35,7 +35,7 @@ void checkbox_control::place(const RECT& area) {
 void checkbox_control::refresh(std::uint32_t changes) {
   const updating_scope quiet(*this);
   if ((changes & (TX_CHANGED_TEXTS | TX_CHANGED_STATE)) != 0) {
-    set_window_text(box_.get(), dialog::field_caption(element_).value_or(""));
+    set_caption_text(box_.get(), dialog::field_caption(element_).value_or(""), key_);
     EnableWindow(box_.get(), dialog::element_enabled(element_));
     const std::optional<std::string> hint = dialog::collect_text([this](tx_custom_pointer v) {
       return call(element_.pair, &tx_checkbox_interface_2::second_text, v);
@@ -73,12 +73,11 @@ bool checkbox_control::on_command(HWND from, UINT code, LRESULT& result) {
 void checkbox_control::print(std::vector<std::string>& lines,
                              const dialog::vocabulary& words) const {
   lines.push_back(dialog::text::field(
-      dialog::text::checkbox(SendMessageW(box_.get(), BM_GETCHECK, 0, 0) == BST_CHECKED,
-                             window_text(box_.get())),
+      dialog::text::checkbox(SendMessageW(box_.get(), BM_GETCHECK, 0, 0) == BST_CHECKED, caption()),
       enabled(), words));
 }
 
-std::string checkbox_control::caption() const { return window_text(box_.get()); }
+std::string checkbox_control::caption() const { return caption_text(box_.get()); }
 
 std::optional<dialog::refusal> checkbox_control::enter(std::string_view value, std::string_view) {
   const dialog::lookup<bool> on = dialog::switch_value(value);

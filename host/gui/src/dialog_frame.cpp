@@ -4,8 +4,10 @@
 
 #include "dialog_window.h"
 #include "native.h"
+#include "outline_control.h"
 #include "tx/toolkit/button_box.h"
 #include "tx/toolkit/docker.h"
+#include "tx_host/dialog/faulty_row.h"
 #include "window_constants.h"
 
 namespace tx::host::gui {
@@ -48,12 +50,14 @@ dialog_window::dialog_window(tx_custom_pointer docker, tx_custom_pointer buttons
   align_captions();
   fit();
   layout();
+  order_tabs();
   if (owner_ != nullptr) {
     owner_was_enabled_ = IsWindowEnabled(owner_) != FALSE;
     EnableWindow(owner_, FALSE);
   }
   ShowWindow(window_, SW_SHOW);
   SetForegroundWindow(window_);
+  keep_focus();
   UpdateWindow(window_);
 }
 
@@ -88,7 +92,13 @@ void dialog_window::create_frame() {
 void dialog_window::press(std::int32_t index) {
   if (closed_with_) return;
   const bool may_close = call(buttons_, &tx_button_box_interface_2::press, index);
-  if (!may_close && index >= 0) return;
+  if (!may_close && index >= 0) {
+    // Refused: the first faulty row, if any, is selected, and shown once the list has it.
+    if (outline_control* list = outline(); list != nullptr) {
+      reveal_ = dialog::select_first_faulty(list->element());
+    }
+    return;
+  }
   closed_with_ = index;
   if (owner_ != nullptr && owner_was_enabled_) EnableWindow(owner_, TRUE);
   ShowWindow(window_, SW_HIDE);

@@ -10,8 +10,9 @@
 // The window's code is split by what it does: dialog_frame.cpp (the empty dialog, its font, its
 // life), window_build.cpp (the controls from the elements' description), window_fit.cpp (the
 // window's size and the buttons' row), window_refresh.cpp (reading what the plug-in told),
-// window_loop.cpp (the message loops and the dialog procedure), window_parts.cpp (the printing
-// and the parts a script acts on).
+// window_loop.cpp (the message loops and the dialog procedure), window_focus.cpp (the tab order
+// and the focus), window_access_keys.cpp (the access keys), window_parts.cpp (the printing and
+// the parts a script acts on).
 #pragma once
 
 #include <cstdint>
@@ -19,6 +20,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "tx/abi.h"
@@ -89,12 +91,27 @@ class dialog_window {
   void register_node(window_node& node);
   // Handles what the message loop took, then reads what the plug-in told meanwhile.
   void deliver(MSG& message);
+  // Gives the buttons, the tools and the fields' labels their access keys (window_access_keys.cpp):
+  // first those that stay whatever operation is shown, then the shown panel's fields; after the
+  // controls are built and whenever the plug-in changed a panel or a text.
+  void assign_access_keys();
+  // An access key typed (Alt and the key, or the key alone where the focused control takes no
+  // characters): a tool's is pressed here and the message taken, since the dialog manager knows
+  // only the keys it finds in the controls' texts; for those, the character is handed on in the
+  // case the text shows it.
+  bool take_access_key(MSG& message);
   void align_captions();
+  // Puts the child windows in reading order, which the dialog manager's Tab follows.
+  void order_tabs();
+  // Gives the focus to the first control when no control of the dialog has it.
+  void keep_focus();
   void layout();
   void fit();
   void show_tree(window_node& node, bool shown);
   void press(std::int32_t index);
+  // Reads what the plug-in told, then brings a row to reveal into view.
   void refresh_pending();
+  void read_pending();
   void changed(void* element, std::uint32_t what);
   size_request content_request() const;
 
@@ -115,8 +132,12 @@ class dialog_window {
   // A wake-up is in the queue for the loop that reads pending_.
   bool wake_posted_ = false;
   std::optional<std::int32_t> closed_with_;
+  // A row to bring into view once the changes in hand have been read.
+  tx_custom_pointer reveal_{};
   dialog::element_views views_;
   SIZE minimum_{};
+  // Each access key that a label, a check box or a button marks, with the character it marks.
+  std::vector<std::pair<char16_t, char16_t>> marked_keys_;
 };
 
 }  // namespace tx::host::gui

@@ -11,6 +11,7 @@
 #include "tx_host/dialog/script_targets.h"
 #include "tx_host/dialog/text_renderer.h"
 #include "tx_host/services/utf.h"
+#include "window_access_keys.h"
 
 namespace tx::host::gui {
 namespace {
@@ -55,7 +56,10 @@ void label_control::print(std::vector<std::string>& lines, const dialog::vocabul
 field_control::field_control(HWND parent, const dialog::element& e, const metrics& m)
     : element_(e), gap_(m.dlu_x(4)) {
   if (e.kind != dialog::element_kind::checkbox) {
-    caption_.reset(make_child(parent, L"STATIC", shown_caption(e), SS_LEFT | SS_NOPREFIX, m));
+    // The label shows the field's access key underlined; Alt and the key take the focus to the
+    // box, which follows the label in the tab order.
+    caption_.reset(make_child(parent, L"STATIC", "", SS_LEFT, m));
+    set_caption_text(caption_.get(), shown_caption(e), key_);
   }
 }
 
@@ -65,13 +69,19 @@ void field_control::show(bool shown) {
 }
 
 std::string field_control::caption() const {
-  return caption_.get() != nullptr ? window_text(caption_.get()) : std::string();
+  return caption_.get() != nullptr ? caption_text(caption_.get()) : std::string();
+}
+
+void field_control::set_access_key(const window_logic::assigned_key& key) {
+  key_ = key;
+  HWND shown = caption_.get() != nullptr ? caption_.get() : box_.get();
+  set_caption_text(shown, caption(), key_);
 }
 
 bool field_control::enabled() const noexcept { return IsWindowEnabled(box_.get()) != FALSE; }
 
 int field_control::caption_width(const metrics& m) const {
-  const std::string shown = caption_.get() != nullptr ? window_text(caption_.get()) : std::string();
+  const std::string shown = caption();
   return shown.empty() ? 0 : text_width(m, shown);
 }
 
@@ -90,7 +100,7 @@ RECT field_control::box_area(const RECT& area) const {
 }
 
 void field_control::refresh_caption_and_state() {
-  if (caption_.get() != nullptr) set_window_text(caption_.get(), shown_caption(element_));
+  if (caption_.get() != nullptr) set_caption_text(caption_.get(), shown_caption(element_), key_);
   const bool on = dialog::element_enabled(element_);
   EnableWindow(box_.get(), on);
   if (caption_.get() != nullptr) EnableWindow(caption_.get(), on);
@@ -99,6 +109,19 @@ void field_control::refresh_caption_and_state() {
 size_request field_control::with_caption(const metrics& m, int box_width, int box_height) const {
   const int caption = std::max(caption_column_, caption_width(m));
   return {caption > 0 ? caption + gap_ + box_width : box_width, box_height, true, false};
+}
+
+int caption_width(const dialog::element& e, const metrics& m) {
+  switch (e.kind) {
+    case dialog::element_kind::dropdown:
+    case dialog::element_kind::integer_input:
+    case dialog::element_kind::assisted_input: {
+      const std::string shown = shown_caption(e);
+      return shown.empty() ? 0 : text_width(m, shown);
+    }
+    default:
+      return 0;
+  }
 }
 
 std::unique_ptr<control> make_plain_control(HWND parent, const dialog::element& e,

@@ -16,6 +16,7 @@
 #include "tx_host/dialog/elements.h"
 #include "tx_host/dialog/refusal.h"
 #include "tx_host/gui/control.h"
+#include "tx_host/window_logic/access_keys.h"
 #include "win32_handles.h"
 
 namespace tx::host::gui {
@@ -44,9 +45,14 @@ class field_control : public control {
  public:
   bool is_field() const noexcept override { return true; }
   void show(bool shown) override;
-  // The caption as shown (what a script names the field by).
+  // The caption as shown (what a script names the field by), without its access key's marker.
   virtual std::string caption() const;
+  // The access key the window chose for the caption; shown in the label (or in the check box).
+  void set_access_key(const window_logic::assigned_key& key);
   bool enabled() const noexcept;
+  // The window that takes the field's input and its keyboard focus (an editable combo box's
+  // edit is a child of it).
+  HWND box() const noexcept { return box_.get(); }
   // The width the caption needs, and the width given to the captions of its column.
   int caption_width(const metrics& m) const;
   void set_caption_column(int width) noexcept { caption_column_ = width; }
@@ -83,6 +89,7 @@ class field_control : public control {
   int caption_column_ = 0;
   int gap_ = 0;
   bool updating_ = false;
+  window_logic::assigned_key key_;
 };
 
 class checkbox_control final : public field_control {
@@ -153,6 +160,10 @@ class integer_control final : public field_control {
   unique_window spin_;
   bool typed_ = false;
 };
+
+// The width the caption of a field of element `e` takes beside its box; 0 for an element shown
+// without one (a check box carries its caption in itself).
+int caption_width(const dialog::element& e, const metrics& m);
 
 // The control for a label or a field element; null for any other kind.
 std::unique_ptr<control> make_plain_control(HWND parent, const dialog::element& e,

@@ -22,14 +22,12 @@ integer_control::integer_control(HWND parent, const dialog::element& e, const me
 }
 
 size_request integer_control::request(const metrics& m) const {
-  size_request r = with_caption(m, box_width_, m.dlu_y(kBoxHeightDlu) + 2);
-  r.grows_across = false;
-  return r;
+  // The box fills its cell, so that its right edge lines up with the boxes above and below it.
+  return with_caption(m, box_width_, m.dlu_y(kBoxHeightDlu) + 2);
 }
 
 void integer_control::place(const RECT& area) {
-  RECT box = box_area(area);
-  box.right = std::min(box.right, box.left + box_width_);
+  const RECT box = box_area(area);
   move_window(box_.get(), box);
   // The up-down control sits on the edit's right edge and resizes the edit around itself.
   SendMessageW(spin_.get(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(box_.get()), 0);

@@ -62,6 +62,13 @@ void move_window(HWND window, const RECT& area) noexcept {
   MoveWindow(window, area.left, area.top, area.right - area.left, area.bottom - area.top, TRUE);
 }
 
+std::vector<HWND> windows_after(HWND parent, HWND after) {
+  std::vector<HWND> found;
+  HWND next = after != nullptr ? GetWindow(after, GW_HWNDNEXT) : GetWindow(parent, GW_CHILD);
+  for (; next != nullptr; next = GetWindow(next, GW_HWNDNEXT)) found.push_back(next);
+  return found;
+}
+
 bool marked_visible(HWND window) noexcept {
   return (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
 }

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "tx_host/gui/control.h"
 
@@ -31,6 +32,10 @@ int text_width(const metrics& m, std::string_view utf8);
 
 // Moves and sizes `window` to `area` (client coordinates of its parent).
 void move_window(HWND window, const RECT& area) noexcept;
+
+// The child windows of `parent` below `after` in its siblings' order, top first (all of them when
+// `after` is null).
+std::vector<HWND> windows_after(HWND parent, HWND after);
 
 // Whether the window itself is marked shown (whatever its parent is).
 bool marked_visible(HWND window) noexcept;

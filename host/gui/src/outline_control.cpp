@@ -14,6 +14,8 @@ constexpr int kFirstColumnWidth = 80;
 // Room for two columns of long Russian names and a screenful of rows, in dialog units.
 constexpr int kWidth = 320;
 constexpr int kHeight = 190;
+// The least height the list may be given when the window is made smaller: a few rows.
+constexpr int kLeastHeight = 60;
 // The first column holds the expander, the box and the old name: a tenth more than the others.
 constexpr int kFirstColumnTenths = 11;
 
@@ -104,14 +106,27 @@ void outline_control::place(const RECT& area) {
   GetClientRect(list(), &client);
   const int width = client.right - GetSystemMetrics(SM_CXVSCROLL);
   if (width == width_ || width <= 0) return;
+  const bool first_time = width_ == 0;
   width_ = width;
   const int columns = static_cast<int>(std::max<std::size_t>(reader_.columns().size(), 1));
+  if (!first_time) {
+    // Widths the user set stay: the last column alone takes what the window gained or lost.
+    int others = 0;
+    for (int c = 0; c + 1 < columns; ++c) {
+      others += static_cast<int>(SendMessageW(list(), LVM_GETCOLUMNWIDTH, c, 0));
+    }
+    const int least = GetSystemMetrics(SM_CXSMICON) * 2;
+    SendMessageW(list(), LVM_SETCOLUMNWIDTH, columns - 1, std::max(width - others, least));
+    return;
+  }
   const int first = columns == 1 ? width : width * kFirstColumnTenths / (10 * columns);
   const int rest = columns == 1 ? 0 : (width - first) / (columns - 1);
   for (int c = 0; c < columns; ++c) {
     SendMessageW(list(), LVM_SETCOLUMNWIDTH, c, c == 0 ? first : rest);
   }
 }
+
+int outline_control::least_height(const metrics& m) { return m.dlu_y(kLeastHeight); }
 
 void outline_control::show(bool shown) { ShowWindow(list(), shown ? SW_SHOW : SW_HIDE); }
 
@@ -126,7 +141,7 @@ void outline_control::refresh(std::uint32_t changes) {
     return;
   }
   if ((changes & (TX_CHANGED_VALUE | TX_CHANGED_STATE | TX_CHANGED_TEXTS)) != 0) {
-    InvalidateRect(list(), nullptr, FALSE);
+    InvalidateRect(list(), nullptr, TRUE);
   }
 }
 

@@ -44,6 +44,13 @@ class outline_control final : public control {
   ~outline_control() override;
 
   size_request request(const metrics& m) const override;
+  // The outline element (a tx_outline_interface_32 pair).
+  tx_custom_pointer element() const noexcept { return reader_.outline(); }
+  // Shows `row`, which the plug-in made its only selected row, as such: selected, scrolled into
+  // view, with the focus mark and the list the keyboard focus; nothing when the row is not shown.
+  void reveal(tx_custom_pointer row);
+  // The least height the list may shrink to below its request when the window is made smaller.
+  static int least_height(const metrics& m);
   void place(const RECT& area) override;
   void show(bool shown) override;
   void refresh(std::uint32_t changes) override;
@@ -121,6 +128,8 @@ class outline_control final : public control {
   // Over the list: closed before it.
   std::unique_ptr<cell_editor> editor_;
   tx_custom_pointer editor_row_{};
+  // The text the editor started with.
+  std::u16string editor_start_;
   std::size_t editor_column_ = 0;
   LPARAM editor_serial_ = 0;
   UINT close_editor_message_;

@@ -24,8 +24,11 @@ void outline_control::open_editor(std::size_t position, std::size_t column) {
   if (!SendMessageW(list(), LVM_GETSUBITEMRECT, position, reinterpret_cast<LPARAM>(&box))) return;
   InflateRect(&box, 0, kEditorBorder);
   if (column > 0) box.left += kEditorBorder;
-  editor_ = std::make_unique<cell_editor>(list(), box, font_, cell(column, row),
-                                          close_editor_message_, ++editor_serial_);
+  // An empty new name starts from the name the row has now, to be changed rather than retyped.
+  editor_start_ = cell(column, row);
+  if (editor_start_.empty() && column > 0) editor_start_ = cell(0, row);
+  editor_ = std::make_unique<cell_editor>(list(), box, font_, editor_start_, close_editor_message_,
+                                          ++editor_serial_);
   editor_row_ = row;
   editor_column_ = column;
 }
@@ -40,11 +43,9 @@ void outline_control::close_editor(bool keep) {
   action_scope scope(*this);
   call(reader_.columns()[column], &tx_string_outline_column_interface_10::set_text, row,
        text.c_str());
-  if (!rows_pending_) InvalidateRect(list(), nullptr, FALSE);
+  if (!rows_pending_) InvalidateRect(list(), nullptr, TRUE);
 }
 
-bool outline_control::editor_changed() const {
-  return editor_ && editor_->text() != cell(editor_column_, editor_row_);
-}
+bool outline_control::editor_changed() const { return editor_ && editor_->text() != editor_start_; }
 
 }  // namespace tx::host::gui

@@ -18,6 +18,8 @@ namespace {
 constexpr WPARAM kExpandCharacter = L'+';
 constexpr WPARAM kCollapseCharacter = L'-';
 constexpr WPARAM kTickCharacter = L' ';
+// What Ctrl+A types: taken by the key, not a letter to search for.
+constexpr WPARAM kSelectAllCharacter = 0x01;
 
 }  // namespace
 
@@ -39,7 +41,20 @@ std::optional<LRESULT> outline_control::on_list_message(UINT message, WPARAM wpa
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
       return on_click(message, lparam);
+    case WM_SETFOCUS:
+      // A visible focus row from the start, not only once an arrow key was pressed.
+      if (!focused() && rows_.size() > 0) {
+        syncing_ = true;
+        set_list_state(0, LVIS_FOCUSED, LVIS_FOCUSED);
+        syncing_ = false;
+      }
+      return std::nullopt;
     case WM_KEYDOWN:
+      if (wparam == 'A' && GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0) {
+        // Ctrl+A selects every row; the boxes stay as they are.
+        set_list_state(static_cast<std::size_t>(-1), LVIS_SELECTED, LVIS_SELECTED);
+        return 0;
+      }
       return on_key(wparam);
     case WM_CHAR:
       return on_character(wparam);
@@ -125,6 +140,7 @@ std::optional<LRESULT> outline_control::on_key(WPARAM key) {
 }
 
 std::optional<LRESULT> outline_control::on_character(WPARAM character) {
+  if (character == kSelectAllCharacter) return 0;
   if (character != kExpandCharacter && character != kCollapseCharacter &&
       character != kTickCharacter) {
     return std::nullopt;
@@ -169,7 +185,7 @@ void outline_control::toggle_tick(std::size_t position) {
   if (others.empty()) {
     SendMessageW(list(), LVM_REDRAWITEMS, position, position);
   } else {
-    InvalidateRect(list(), nullptr, FALSE);
+    InvalidateRect(list(), nullptr, TRUE);
   }
 }
 

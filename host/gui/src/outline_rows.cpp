@@ -55,7 +55,7 @@ void outline_control::rebuild() {
       SendMessageW(list(), LVM_SCROLL, 0, (static_cast<LRESULT>(*at) - now) * step);
     }
   }
-  InvalidateRect(list(), nullptr, FALSE);
+  InvalidateRect(list(), nullptr, TRUE);
 }
 
 std::vector<std::size_t> outline_control::list_selection(std::size_t from) const {
@@ -126,14 +126,17 @@ void outline_control::toggle_expanded(std::size_t position) {
                  static_cast<LPARAM>(splice.moved(static_cast<std::size_t>(anchor))));
   }
   syncing_ = false;
-  // Everything from this row down is drawn again.
+  // Everything from this row down is erased and drawn again: the list paints a row's boxes and
+  // expander over what is there, so rows that moved would show through them otherwise.
   RECT item{LVIR_BOUNDS, 0, 0, 0};
   RECT below{};
   GetClientRect(list(), &below);
   if (SendMessageW(list(), LVM_GETITEMRECT, position, reinterpret_cast<LPARAM>(&item))) {
     below.top = std::max<LONG>(item.top, 0);
   }
-  InvalidateRect(list(), &below, FALSE);
+  InvalidateRect(list(), &below, TRUE);
+  // A scroll bar that came or went moves the header's right end.
+  InvalidateRect(reinterpret_cast<HWND>(SendMessageW(list(), LVM_GETHEADER, 0, 0)), nullptr, TRUE);
 }
 
 void outline_control::handed_selection(std::size_t first, std::size_t last, bool on) {
@@ -144,6 +147,19 @@ void outline_control::handed_selection(std::size_t first, std::size_t last, bool
       call(reader_.outline(), &tx_outline_interface_32::set_selected, row, on);
     }
   }
+}
+
+void outline_control::reveal(tx_custom_pointer row) {
+  const std::optional<std::size_t> position = rows_.find(row);
+  if (!position) return;
+  // The plug-in made it the only selected row: the list shows the same.
+  select_in_list(0, {*position});
+  syncing_ = true;
+  set_list_state(*position, LVIS_FOCUSED, LVIS_FOCUSED);
+  syncing_ = false;
+  SendMessageW(list(), LVM_SETSELECTIONMARK, 0, static_cast<LPARAM>(*position));
+  SendMessageW(list(), LVM_ENSUREVISIBLE, *position, FALSE);
+  SetFocus(list());
 }
 
 }  // namespace tx::host::gui

@@ -54,10 +54,13 @@ toolbar_control::toolbar_control(HWND parent, tx_custom_pointer toolbar, const m
                            parent, nullptr, GetModuleHandleW(nullptr), nullptr);
   if (strip_ == nullptr) return;
   SetWindowLongPtrW(strip_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  // The toolbar is the tab stop: the strip, a control parent, lets the dialog manager reach it.
   bar_ = CreateWindowExW(0, TOOLBARCLASSNAMEW, L"",
-                         WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_LIST | TBSTYLE_TOOLTIPS |
-                             CCS_NODIVIDER | CCS_NORESIZE | CCS_NOPARENTALIGN,
+                         WS_CHILD | WS_VISIBLE | WS_TABSTOP | TBSTYLE_FLAT | TBSTYLE_LIST |
+                             TBSTYLE_TOOLTIPS | CCS_NODIVIDER | CCS_NORESIZE | CCS_NOPARENTALIGN,
                          0, 0, 0, 0, strip_, nullptr, GetModuleHandleW(nullptr), nullptr);
+  keyboard_ = window_subclass(
+      bar_, [this](UINT message, WPARAM w, LPARAM l) { return on_bar_message(message, w, l); });
   SendMessageW(bar_, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
   SendMessageW(bar_, WM_SETFONT, reinterpret_cast<WPARAM>(m.font), FALSE);
   // Only a tool without a picture shows its caption; the others have theirs as the button text
@@ -75,6 +78,7 @@ toolbar_control::toolbar_control(HWND parent, tx_custom_pointer toolbar, const m
 }
 
 toolbar_control::~toolbar_control() {
+  keyboard_ = window_subclass();
   if (strip_ != nullptr) {
     SetWindowLongPtrW(strip_, GWLP_USERDATA, 0);
     DestroyWindow(strip_);
@@ -93,7 +97,7 @@ LRESULT CALLBACK toolbar_control::strip_procedure(HWND strip, UINT message, WPAR
   if (self != nullptr && message == WM_NOTIFY) {
     auto& header = *reinterpret_cast<NMHDR*>(lparam);
     if (header.hwndFrom == self->bar_ && header.code == NM_CUSTOMDRAW) {
-      return self->draw_text_button(reinterpret_cast<NMTBCUSTOMDRAW&>(header));
+      return self->draw_button(reinterpret_cast<NMTBCUSTOMDRAW&>(header));
     }
   }
   return DefWindowProcW(strip, message, wparam, lparam);
@@ -122,7 +126,7 @@ void toolbar_control::load() {
       buttons.push_back(separator);
       group = entry.group;
     }
-    tool t{entry.id, entry.tool, kFirstCommand + static_cast<int>(tools_.size()), false, {}};
+    tool t{entry.id, entry.tool, kFirstCommand + static_cast<int>(tools_.size()), false, false, {}};
     tool_picture picture;
     int image = I_IMAGENONE;
     if (call(entry.tool, &tx_action_tool_interface_0::image, picture.pair()) && picture.size()) {
@@ -161,7 +165,7 @@ void toolbar_control::fit_text_buttons() {
   HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(bar_, WM_GETFONT, 0, 0)));
   for (const tool& t : tools_) {
     if (t.picture) continue;
-    const std::u16string text = button_text(bar_, t.command);
+    const std::u16string text = window_logic::without_marker(button_text(bar_, t.command));
     SIZE size{};
     GetTextExtentPoint32W(dc, reinterpret_cast<const wchar_t*>(text.c_str()),
                           static_cast<int>(text.size()), &size);
@@ -176,11 +180,15 @@ void toolbar_control::fit_text_buttons() {
   ReleaseDC(bar_, dc);
 }
 
-LRESULT toolbar_control::draw_text_button(NMTBCUSTOMDRAW& draw) const {
+LRESULT toolbar_control::draw_button(NMTBCUSTOMDRAW& draw) const {
   if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (draw.nmcd.dwDrawStage == CDDS_ITEMPOSTPAINT) {
+    draw_focus(draw);
+    return CDRF_DODEFAULT;
+  }
   if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
   const tool* t = tool_of(static_cast<int>(draw.nmcd.dwItemSpec));
-  if (t == nullptr || t->picture) return CDRF_DODEFAULT;
+  if (t == nullptr || t->picture) return CDRF_NOTIFYPOSTPAINT;
   // The toolbar would set the caption off by a picture's width: the caption is drawn here,
   // centred, in a flat button's frame.
   RECT r = draw.nmcd.rc;
@@ -191,16 +199,20 @@ LRESULT toolbar_control::draw_text_button(NMTBCUSTOMDRAW& draw) const {
   } else if ((state & CDIS_HOT) != 0 && (state & CDIS_DISABLED) == 0) {
     DrawEdge(draw.nmcd.hdc, &r, BDR_RAISEDINNER, BF_RECT);
   }
+  // The text carries the access key's marker: underlined, unless the system hides access keys
+  // until Alt is pressed and it has not been.
   const std::u16string text = button_text(bar_, t->command);
+  UINT format = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+  if ((SendMessageW(bar_, WM_QUERYUISTATE, 0, 0) & UISF_HIDEACCEL) != 0) format |= DT_HIDEPREFIX;
   HGDIOBJ old =
       SelectObject(draw.nmcd.hdc, reinterpret_cast<HFONT>(SendMessageW(bar_, WM_GETFONT, 0, 0)));
   SetBkMode(draw.nmcd.hdc, TRANSPARENT);
   SetTextColor(draw.nmcd.hdc,
                GetSysColor((state & CDIS_DISABLED) != 0 ? COLOR_GRAYTEXT : COLOR_BTNTEXT));
   DrawTextW(draw.nmcd.hdc, reinterpret_cast<const wchar_t*>(text.c_str()),
-            static_cast<int>(text.size()), &r,
-            DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+            static_cast<int>(text.size()), &r, format);
   SelectObject(draw.nmcd.hdc, old);
+  draw_focus(draw);
   return CDRF_SKIPDEFAULT;
 }
 
@@ -208,14 +220,21 @@ void toolbar_control::read_texts() {
   for (tool& t : tools_) {
     const std::optional<std::string> caption = dialog::tool_caption(t.pair);
     t.captioned = caption.has_value();
-    const std::u16string text = to_utf16(caption.value_or(t.id));
+    const std::u16string shown = to_utf16(caption.value_or(t.id));
+    // Every text with its '&' doubled; a tool that shows its caption marks its key in it.
+    const window_logic::assigned_key& key = key_for(t);
+    const std::u16string text = window_logic::with_marker(shown, t.picture ? std::nullopt : key);
     TBBUTTONINFOW info{};
     info.cbSize = sizeof(info);
     info.dwMask = TBIF_TEXT;
     info.pszText = const_cast<wchar_t*>(reinterpret_cast<const wchar_t*>(text.c_str()));
     SendMessageW(bar_, TB_SETBUTTONINFOW, t.command, reinterpret_cast<LPARAM>(&info));
-    // The tooltip shows the hint; a tool without one has none.
-    const std::u16string hint = to_utf16(dialog::tool_hint(t.pair).value_or(""));
+    // The tooltip shows the hint; a tool without one has none, unless it is shown as a picture
+    // and has an access key: its tooltip tells the key after the hint, or after its caption.
+    const std::optional<std::string> hinted = dialog::tool_hint(t.pair);
+    t.hinted = hinted.has_value();
+    std::u16string hint = to_utf16(hinted.value_or(""));
+    if (t.picture && key) hint = window_logic::with_key_hint(t.hinted ? hint : shown, key->letter);
     TTTOOLINFOW tip{};
     tip.cbSize = sizeof(tip);
     tip.hwnd = bar_;
@@ -277,7 +296,10 @@ const toolbar_control::tool* toolbar_control::tool_of(int command) const noexcep
 }
 
 void toolbar_control::invoke(int command) {
-  if (const tool* t = tool_of(command)) call(t->pair, &tx_action_tool_interface_0::invoke);
+  if (const tool* t = tool_of(command)) {
+    last_used_ = command;
+    call(t->pair, &tx_action_tool_interface_0::invoke);
+  }
 }
 
 std::vector<toolbar_control::button_values> toolbar_control::buttons() const {
@@ -296,7 +318,7 @@ std::vector<toolbar_control::button_values> toolbar_control::buttons() const {
     button_values b;
     b.command = button.idCommand;
     b.values.id = t->id;
-    const std::u16string text = button_text(bar_, button.idCommand);
+    const std::u16string text = window_logic::without_marker(button_text(bar_, button.idCommand));
     if (t->captioned) b.values.caption = to_utf8(text);
     std::vector<wchar_t> tip_text(1024, L'\0');
     TTTOOLINFOW tip{};
@@ -307,8 +329,11 @@ std::vector<toolbar_control::button_values> toolbar_control::buttons() const {
     if (tips_ != nullptr) {
       SendMessageW(tips_, TTM_GETTEXTW, tip_text.size(), reinterpret_cast<LPARAM>(&tip));
     }
-    const std::u16string hint(reinterpret_cast<const char16_t*>(tip_text.data()));
-    if (!hint.empty()) b.values.hint = to_utf8(hint);
+    std::u16string hint(reinterpret_cast<const char16_t*>(tip_text.data()));
+    if (const window_logic::assigned_key& key = key_for(*t); key && t->picture) {
+      hint = window_logic::without_key_hint(hint, key->letter);
+    }
+    if (t->hinted && !hint.empty()) b.values.hint = to_utf8(hint);
     if (button.iBitmap != I_IMAGENONE) b.values.image = t->picture;
     b.values.enabled = (button.fsState & TBSTATE_ENABLED) != 0;
     b.values.visible = (button.fsState & TBSTATE_HIDDEN) == 0;

@@ -24,26 +24,21 @@ void dialog_window::build() {
   build_buttons();
   nodes_.clear();
   register_node(*root_);
+  assign_access_keys();
 }
 
 void dialog_window::build_buttons() {
-  // The buttons, in the box's order; the first accepting one is the default.
-  int defined = 0;
+  // The buttons, in the box's order. None is the default: Enter in a field or in the list must
+  // never press the accepting button and commit the project; Enter presses a button only when
+  // that button has the focus.
   for (const dialog::button_entry& b : dialog::buttons_of(buttons_)) {
     if (!b.shown) continue;
-    const bool accepting = dialog::role_of(b.caption, language_) == dialog::button_role::accept;
     const int id = kFirstButtonId + b.index;
-    HWND made =
-        CreateWindowExW(0, L"BUTTON", wide(b.caption).c_str(),
-                        WS_CHILD | WS_VISIBLE | WS_TABSTOP |
-                            (accepting && defined == 0 ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON),
-                        0, 0, 0, 0, window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                        GetModuleHandleW(nullptr), nullptr);
+    HWND made = CreateWindowExW(0, L"BUTTON", wide(b.caption).c_str(),
+                                WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, 0, 0, 0,
+                                window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                GetModuleHandleW(nullptr), nullptr);
     SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(metrics_.font), FALSE);
-    if (accepting && defined == 0) {
-      defined = id;
-      SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(defined), 0);
-    }
     buttons_shown_.emplace_back(made, b.index);
   }
 }
@@ -54,6 +49,7 @@ std::unique_ptr<window_node> dialog_window::build_node(dialog::element_node desc
   described.children.clear();
   node->described = std::move(described);
   const dialog::element& e = node->element();
+  HWND last_before = GetWindow(GetWindow(window_, GW_CHILD), GW_HWNDLAST);
   switch (e.kind) {
     case element_kind::grid:
     case element_kind::stack:
@@ -83,6 +79,8 @@ std::unique_ptr<window_node> dialog_window::build_node(dialog::element_node desc
       break;
   }
   if (node->leaf) {
+    // A new child window goes to the bottom of its siblings: the leaf's windows are the last.
+    node->windows = windows_after(window_, last_before);
     node->shown = dialog::element_visible(e);
     if (!node->shown) node->leaf->show(false);
   }
@@ -110,8 +108,9 @@ void dialog_window::register_node(window_node& node) {
 }
 
 void dialog_window::align_captions() {
-  // The fields in the first column of their grid share one caption width across the dialog;
-  // a field further right keeps its own.
+  // The fields in the first column of their grid share one caption width across the dialog, the
+  // widest caption of every panel, shown or not, so that the boxes stand still when the shown
+  // operation changes; a field further right keeps its own.
   std::vector<field_control*> first_column;
   int widest = 0;
   auto visit = [&](auto&& self, window_node& node) -> void {
@@ -129,6 +128,13 @@ void dialog_window::align_captions() {
     }
   };
   visit(visit, *root_);
+  auto described = [&](auto&& self, const dialog::element_node& node) -> void {
+    for (const dialog::element_node& child : node.children) {
+      if (child.cell.column == 0) widest = std::max(widest, caption_width(child.element, metrics_));
+      self(self, child);
+    }
+  };
+  described(described, dialog::describe(docker_, dialog::walk_scope::all));
   for (field_control* field : first_column) field->set_caption_column(widest);
 }
 

@@ -4,6 +4,8 @@
 
 #include "dialog_window.h"
 #include "native.h"
+#include "outline_control.h"
+#include "window_access_keys.h"
 #include "window_constants.h"
 
 namespace tx::host::gui {
@@ -11,7 +13,7 @@ namespace {
 
 int button_width(const metrics& m, HWND button) {
   return std::max(m.dlu_x(kButtonWidthDlu),
-                  text_width(m, window_text(button)) + m.dlu_x(kButtonTextRoomDlu));
+                  text_width(m, caption_text(button)) + m.dlu_x(kButtonTextRoomDlu));
 }
 
 }  // namespace
@@ -32,12 +34,18 @@ void dialog_window::fit() {
               content.height + button_row + 2 * m.dlu_y(kMarginDlu)};
   AdjustWindowRectEx(&wanted, static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_STYLE)), FALSE,
                      static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_EXSTYLE)));
-  minimum_ = {wanted.right - wanted.left, wanted.bottom - wanted.top};
+  const SIZE opening{wanted.right - wanted.left, wanted.bottom - wanted.top};
+  // The window may be made lower than it opens, down to a few rows of the list; every text keeps
+  // its room across.
+  const outline_control* list = outline();
+  const int spare =
+      list != nullptr ? std::max(0, list->request(m).height - outline_control::least_height(m)) : 0;
+  minimum_ = {opening.cx, opening.cy - spare};
   RECT now{};
   GetWindowRect(window_, &now);
   const bool first = !IsWindowVisible(window_);
-  const int width = first ? minimum_.cx : std::max<int>(now.right - now.left, minimum_.cx);
-  const int height = first ? minimum_.cy : std::max<int>(now.bottom - now.top, minimum_.cy);
+  const int width = first ? opening.cx : std::max<int>(now.right - now.left, minimum_.cx);
+  const int height = first ? opening.cy : std::max<int>(now.bottom - now.top, minimum_.cy);
   if (first) {
     // Centred on the screen's work area, as a dialog without a visible owner opens.
     RECT work{};

@@ -34,6 +34,9 @@ struct window_node {
   // A grid's cells or a group box's and a stack's content.
   std::vector<std::unique_ptr<window_node>> children;
   std::unique_ptr<control> leaf;  // a field, label, outline, toolbar
+  // The leaf's own child windows of the dialog, in the order they were made (not owned: the
+  // leaf owns them): what the tab order arranges.
+  std::vector<HWND> windows;
   bool shown = true;
 };
 

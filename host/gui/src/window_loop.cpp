@@ -7,7 +7,8 @@
 namespace tx::host::gui {
 
 void dialog_window::deliver(MSG& message) {
-  if (window_ == nullptr || !IsDialogMessageW(window_, &message)) {
+  // An access key first: the dialog manager would take a tool's for no control's.
+  if (!take_access_key(message) && (window_ == nullptr || !IsDialogMessageW(window_, &message))) {
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }
@@ -62,6 +63,9 @@ INT_PTR dialog_window::handle_message(UINT message, WPARAM w, LPARAM l) {
           if (HIWORD(w) == BN_CLICKED) press(index);
           return TRUE;
         }
+      }
+      if (id == IDOK && from == nullptr) {
+        return TRUE;  // Enter outside a button: the dialog has no default button to press
       }
       if (id == IDCANCEL && (from == nullptr || GetParent(from) != window_)) {
         press(-1);  // Esc acts as the frame's close box

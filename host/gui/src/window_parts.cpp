@@ -7,6 +7,7 @@
 #include "toolbar_control.h"
 #include "tx_host/dialog/text_renderer.h"
 #include "tx_host/dialog/vocabulary.h"
+#include "window_access_keys.h"
 
 namespace tx::host::gui {
 namespace {
@@ -62,7 +63,7 @@ std::string dialog_window::render() const {
   std::vector<std::string> captions;
   for (const auto& [shown_button, index] : buttons_shown_) {
     (void)index;
-    if (marked_visible(shown_button)) captions.push_back(window_text(shown_button));
+    if (marked_visible(shown_button)) captions.push_back(caption_text(shown_button));
   }
   if (const std::string row = text::buttons(captions); !row.empty()) out.line(row);
   return out.take();
@@ -106,7 +107,7 @@ std::vector<toolbar_control*> dialog_window::toolbars() const {
 std::vector<dialog_window::button> dialog_window::shown_buttons() const {
   std::vector<button> found;
   for (const auto& [window, index] : buttons_shown_) {
-    if (marked_visible(window)) found.push_back({window, window_text(window), index});
+    if (marked_visible(window)) found.push_back({window, caption_text(window), index});
   }
   return found;
 }

@@ -4,6 +4,7 @@
 // names a layout and an element inside it never reads a destroyed node.
 #include "dialog_window.h"
 #include "native.h"
+#include "outline_control.h"
 #include "tx/toolkit/layout.h"
 #include "window_constants.h"
 
@@ -20,6 +21,15 @@ void dialog_window::changed(void* element, std::uint32_t what) {
 }
 
 void dialog_window::refresh_pending() {
+  read_pending();
+  if (present(reveal_)) {
+    if (outline_control* list = outline(); list != nullptr) list->reveal(reveal_);
+    reveal_ = {};
+    read_pending();
+  }
+}
+
+void dialog_window::read_pending() {
   if (pending_.empty()) return;
   const std::unordered_map<void*, std::uint32_t> pending = std::move(pending_);
   pending_.clear();
@@ -52,6 +62,7 @@ void dialog_window::refresh_pending() {
   if (rebuilt) {
     nodes_.clear();
     register_node(*root_);
+    order_tabs();
   }
   bool resize = rebuilt;
   for (const auto& [element, what] : pending) {
@@ -69,9 +80,15 @@ void dialog_window::refresh_pending() {
     if ((what & (TX_CHANGED_TEXTS | TX_CHANGED_ITEMS)) != 0) resize = true;
   }
   if (resize) {
+    assign_access_keys();
     align_captions();
     fit();
     layout();
+  }
+  if (rebuilt) {
+    // A control that had the focus may have gone with its panel.
+    replaced.clear();
+    keep_focus();
   }
 }
 

@@ -6,11 +6,16 @@
 
 #include "dialog_window.h"
 #include "field_controls.h"
+#include "focus_report.h"
+#include "input_delivery.h"
+#include "key_input.h"
 #include "message_presenter.h"
 #include "native.h"
 #include "outline_control.h"
+#include "random_input.h"
 #include "screenshot.h"
 #include "toolbar_control.h"
+#include "tx_host/dialog/key_names.h"
 #include "tx_host/dialog/script_targets.h"
 #include "tx_host/dialog/vocabulary.h"
 
@@ -72,6 +77,8 @@ class window_surface final : public dialog::dialog_surface, private dialog::dial
   command_outcome press(const command& c) override;
   std::string tools() override;
   command_outcome screenshot(const std::string& file) override;
+  // keys, type, focus, random-input: the window's keyboard and mouse (key_input.h).
+  command_outcome keyboard(const command& c) override;
 
   window_options options_;
   dialog_window window_;
@@ -162,6 +169,33 @@ command_outcome window_surface::screenshot(const std::string& file) {
     path = options_.screenshots + "/" + file;
   }
   return failure(save_screenshot(window_.handle(), path));
+}
+
+command_outcome window_surface::keyboard(const command& c) {
+  if (c.what == verb::focus) return {std::nullopt, describe_focus(window_), {}};
+  input_delivery delivery(window_, c.line, std::string(dialog::verb_name(c.what)));
+  if (c.what == verb::random_input) {
+    const dialog::random_input_arguments numbers = dialog::read_random_input(c.arguments);
+    return random_input(window_, delivery, numbers.count, numbers.seed);
+  }
+  // keys and type: one chord, or one character typed, after another, each handled before the
+  // next; what follows an input that closed the dialog is not sent.
+  std::vector<std::pair<std::vector<INPUT>, std::string>> inputs;
+  if (c.what == verb::keys) {
+    for (const dialog::key_chord& chord : dialog::parse_keys(c.arguments.at(0)).chords) {
+      inputs.emplace_back(chord_events(chord), dialog::key_name(chord));
+    }
+  } else {
+    for (const wchar_t unit : wide(c.arguments.at(0))) {
+      inputs.emplace_back(character_events(unit), utf8(std::wstring(1, unit)));
+    }
+  }
+  for (std::size_t i = 0; i < inputs.size() && !window_.closed_with(); ++i) {
+    if (auto error = delivery.deliver(std::move(inputs[i].first), i + 1, inputs[i].second)) {
+      return failure(*error);
+    }
+  }
+  return done();
 }
 
 }  // namespace

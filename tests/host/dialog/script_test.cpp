@@ -16,12 +16,19 @@ namespace {
 TEST(ScriptLine, ParsesEveryCommandWithItsArgumentsAndTheSummaryNamesEach) {
   const std::string summary = command_summary();
   int verbs = 0;
-  for (int v = 0; v <= static_cast<int>(verb::reopen); ++v, ++verbs) {
+  for (int v = 0; v <= static_cast<int>(verb::random_input); ++v, ++verbs) {
     const verb what = static_cast<verb>(v);
     std::string line(verb_name(what));
     std::vector<std::string> arguments;
     for (std::size_t i = 0; i < verb_arguments(what).size(); ++i) {
-      arguments.push_back("Сцены " + std::to_string(i));
+      // Keys and numbers are checked as the line is read; any text will do for the others.
+      if (what == verb::keys) {
+        arguments.push_back("Shift+Tab Alt+Т");
+      } else if (what == verb::random_input) {
+        arguments.push_back(std::to_string(300 + i));
+      } else {
+        arguments.push_back("Сцены " + std::to_string(i));
+      }
       line += " \"" + arguments.back() + "\"";
     }
     const parsed_line parsed = parse_line(line, 7);
@@ -32,6 +39,7 @@ TEST(ScriptLine, ParsesEveryCommandWithItsArgumentsAndTheSummaryNamesEach) {
     EXPECT_NE(summary.find("  " + std::string(verb_name(what)) + " "), std::string::npos) << line;
   }
   EXPECT_EQ(verb_name(verb::remove), "delete");
+  EXPECT_EQ(verb_name(verb::random_input), "random-input");
   // A line for each command.
   EXPECT_EQ(std::count(summary.begin(), summary.end(), '\n'), verbs);
 }
@@ -85,6 +93,19 @@ TEST(ScriptLine, TellsWhatIsWrongWithALine) {
       {"set \"a\"b c", "a closing quote must be followed by a blank"},
       {"set a\"b\" c", "a quote inside a word: quote the whole argument"},
       {"tick \xD0", "the line is not UTF-8"},
+      // Keys and the random run's numbers are read before anything runs.
+      {"keys \"Tab Ctrl+Foo\"",
+       "'Ctrl+Foo': no key 'Foo' (a key is a letter, a digit, Tab, Enter, "
+       "Esc, Space, Up, Down, Left, Right, Home, End, PgUp, PgDn, "
+       "Insert, Delete, Backspace or F1 to F12)"},
+      {"keys \"\"",
+       "no keys given (a key is a letter, a digit, Tab, Enter, Esc, Space, Up, Down, "
+       "Left, Right, Home, End, PgUp, PgDn, Insert, Delete, Backspace or F1 to F12)"},
+      {"random-input 0 1", "COUNT must be a whole number from 1 to 1000000, not '0'"},
+      {"random-input 1000001 1", "COUNT must be a whole number from 1 to 1000000, not '1000001'"},
+      {"random-input 20 -1", "SEED must be a whole number from 0 to 4294967295, not '-1'"},
+      {"random-input 20 4294967296",
+       "SEED must be a whole number from 0 to 4294967295, not '4294967296'"},
   };
   for (const row& r : rows) {
     const parsed_line parsed = parse_line(r.line, 12);

@@ -258,6 +258,37 @@ TEST_F(outline_window, TheEditorKeepsOrDropsWhatWasTypedAsItIsLeft) {
   }
 }
 
+TEST_F(outline_window, RowsDrawnAfterCollapseAndExpandAreTheRowsDrawnAfresh) {
+  struct splice {
+    const char* row;
+    bool expand;
+  };
+  // Rows with and without expanders and boxes move up and down under each other.
+  const splice splices[] = {
+      {"Двумерные сцены / Центр города / Улицы", false},
+      {"Двумерные сцены / Центр города", false},
+      {"Двумерные сцены / Центр города", true},
+      {"Двумерные сцены / Центр города / Кварталы", false},
+      {"Двумерные сцены", false},
+      {"Двумерные сцены", true},
+  };
+  for (const splice& s : splices) {
+    SCOPED_TRACE(s.row);
+    ASSERT_FALSE(rows->expand(s.row, s.expand));
+    pump();
+    RECT area{};
+    const std::vector<COLORREF> spliced = screenshot("spliced", area);
+    RedrawWindow(window, nullptr, nullptr,
+                 RDW_ERASE | RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    pump();
+    const std::vector<COLORREF> afresh = screenshot("afresh", area);
+    ASSERT_EQ(spliced.size(), afresh.size());
+    std::size_t differing = 0;
+    for (std::size_t i = 0; i < spliced.size(); ++i) differing += spliced[i] != afresh[i] ? 1 : 0;
+    EXPECT_EQ(differing, 0u);
+  }
+}
+
 TEST_F(outline_window, FaultyRowsAreRedAndTheLastStepsNamesBold) {
   ASSERT_FALSE(rows->rename("Переулки", "", true));
   ASSERT_FALSE(rows->rename("Магистрали", "Проспекты", true));

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "dialog_controls.h"
-#include "dialog_window.h"
+#include "open_dialog.h"
 #include "toolkit/docker.h"
 #include "tx/toolkit/toolbar.h"
 #include "tx_host/dialog/toolbar_reader.h"
@@ -16,25 +16,8 @@
 namespace tx::test {
 namespace {
 
-class window_loop : public testing::Test {
+class window_loop : public open_dialog {
  protected:
-  void SetUp() override {
-    ASSERT_TRUE(tx_host_project_load(TX_EXAMPLES_DIR "/city.json")) << tx_host_project_error();
-    tx_host_set_lng(0);
-    frame = std::make_unique<toolkit::docker<project_rename_widget>>(0);
-    frame->widget().open();
-    host::gui::start_common_controls();
-    window = std::make_unique<host::gui::dialog_window>(frame->pointer(), tx_custom_pointer{}, 0,
-                                                        nullptr);
-    // Wine without an X server has no window station to show windows on.
-    if (window->handle() == nullptr) GTEST_SKIP() << "no display: run under an X server";
-    window->pump();
-  }
-  void TearDown() override {
-    window.reset();
-    frame.reset();
-  }
-
   // Runs the tool `id` of the dialog's toolbar as the plug-in's own code would, not through the
   // window: the plug-in then tells the window's views what changed.
   bool run_tool(const std::string& id) {
@@ -45,9 +28,6 @@ class window_loop : public testing::Test {
     }
     return false;
   }
-
-  std::unique_ptr<toolkit::docker<project_rename_widget>> frame;
-  std::unique_ptr<host::gui::dialog_window> window;
 };
 
 TEST_F(window_loop, AQuitRequestEndsTheDialogsLoopAndIsLeftForTheLoopOutside) {

@@ -45,6 +45,9 @@ class dialog_actions {
   // The `tools` listing.
   virtual std::string tools() = 0;
   virtual command_outcome screenshot(const std::string& file) = 0;
+  // keys, type, focus, random-input: a keyboard and a mouse, which only the window has; any
+  // other host refuses them.
+  virtual command_outcome keyboard(const command& c);
 
  protected:
   dialog_actions() = default;

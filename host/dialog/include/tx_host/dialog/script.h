@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,6 +36,11 @@ enum class verb {
   screenshot,  // FILE: save the dialog's window as a PNG (the text host does nothing)
   remove,      // ELEMENT: another part of the host deletes a project element ("delete")
   reopen,      // run the utility again, after its dialog has closed
+  // The window's keyboard and mouse (txhost --gui); the text host refuses them.
+  keys,          // KEYS: press keys (key_names.h) through the system's input queue
+  type,          // TEXT: type TEXT into the focused control through the input queue
+  focus,         // print which control has the keyboard focus
+  random_input,  // COUNT SEED: COUNT random keys and clicks from SEED ("random-input")
 };
 
 // The verb's name as written in a script.
@@ -78,6 +84,15 @@ struct parsed_script {
 // Parses a whole script (a UTF-8 byte order mark at its start is skipped); stops at the first
 // error.
 parsed_script parse_script(std::string_view text);
+
+// The numbers of `random-input COUNT SEED` (COUNT 1 to 1,000,000, SEED 0 to 4,294,967,295), or
+// what is wrong with them.
+struct random_input_arguments {
+  std::uint32_t count = 0;
+  std::uint32_t seed = 0;
+  std::string error;
+};
+random_input_arguments read_random_input(const std::vector<std::string>& arguments);
 
 // The command summary printed by `help`, one command a line.
 std::string command_summary();
