@@ -365,6 +365,8 @@ void toolbar_control::click(std::size_t position) {
   const LPARAM at = MAKELPARAM((r.left + r.right) / 2, (r.top + r.bottom) / 2);
   SendMessageW(bar_, WM_LBUTTONDOWN, MK_LBUTTON, at);
   SendMessageW(bar_, WM_LBUTTONUP, 0, at);
+  // The pointer moves on, as a person's hand does: no tool stays lit without the focus.
+  if (GetFocus() != bar_) SendMessageW(bar_, WM_MOUSELEAVE, 0, 0);
 }
 
 }  // namespace tx::host::gui
