@@ -81,6 +81,8 @@ void field_control::set_access_key(const window_logic::assigned_key& key) {
 bool field_control::enabled() const noexcept { return IsWindowEnabled(box_.get()) != FALSE; }
 
 int field_control::caption_width(const metrics& m) const {
+  // A check box carries its caption in itself: it takes no room in the caption column.
+  if (caption_.get() == nullptr) return 0;
   const std::string shown = caption();
   return shown.empty() ? 0 : text_width(m, shown);
 }
