@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 
+#include "tx_host/services/letter_case.h"
 #include "tx_host/services/utf.h"
 
 namespace tx::host::dialog {
@@ -55,7 +56,7 @@ std::optional<modifier> modifier_named(std::string_view name) noexcept {
 }
 
 // F1 to F12.
-std::optional<named_key> function_key(std::string_view name) noexcept {
+std::optional<named_key> function_key_named(std::string_view name) noexcept {
   if (name.size() < 2 || name.size() > 3 || lower_ascii(name[0]) != 'f') return std::nullopt;
   int number = 0;
   for (const char c : name.substr(1)) {
@@ -63,7 +64,7 @@ std::optional<named_key> function_key(std::string_view name) noexcept {
     number = number * 10 + (c - '0');
   }
   if (number < 1 || number > 12 || name[1] == '0') return std::nullopt;
-  return static_cast<named_key>(static_cast<int>(named_key::f1) + number - 1);
+  return dialog::function_key(number);
 }
 
 // The key `name` names into `chord`; false when it names none.
@@ -74,7 +75,7 @@ bool read_key(std::string_view name, key_chord& chord) {
       return true;
     }
   }
-  if (const std::optional<named_key> f = function_key(name)) {
+  if (const std::optional<named_key> f = function_key_named(name)) {
     chord.key = *f;
     return true;
   }
@@ -84,7 +85,7 @@ bool read_key(std::string_view name, key_chord& chord) {
   const char32_t c = unit.front();
   if (!(c >= U'0' && c <= U'9') && !is_latin_letter(c) && !is_cyrillic_letter(c)) return false;
   chord.key = named_key::character;
-  chord.character = capital_of(c);
+  chord.character = capital_letter(c);
   return true;
 }
 
@@ -138,20 +139,6 @@ bool is_latin_letter(char32_t c) noexcept {
 
 bool is_cyrillic_letter(char32_t c) noexcept {
   return (c >= U'А' && c <= U'я') || c == U'Ё' || c == U'ё';
-}
-
-char32_t capital_of(char32_t letter) noexcept {
-  if ((letter >= U'a' && letter <= U'z') || (letter >= U'а' && letter <= U'я')) return letter - 32;
-  if (letter == U'ё') return U'Ё';
-  return letter;
-}
-
-char32_t small_of(char32_t capital) noexcept {
-  if ((capital >= U'A' && capital <= U'Z') || (capital >= U'А' && capital <= U'Я')) {
-    return capital + 32;
-  }
-  if (capital == U'Ё') return U'ё';
-  return capital;
 }
 
 parsed_keys parse_keys(std::string_view keys) {

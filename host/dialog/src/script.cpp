@@ -45,8 +45,8 @@ const std::array<verb_entry, 25>& verbs() {
       {verb::focus, "focus", {}, "tell which control has the keyboard focus (--gui)"},
       {verb::random_input,
        "random-input",
-       {"COUNT", "SEED"},
-       "COUNT random keys and clicks from SEED (--gui)"},
+       {"COUNT", "SERIES"},
+       "COUNT random keys and clicks from SERIES (--gui)"},
   }};
   return table;
 }
@@ -154,18 +154,18 @@ random_input_arguments read_random_input(const std::vector<std::string>& argumen
   constexpr std::uint32_t kMostInputs = 1'000'000;
   random_input_arguments result;
   const std::optional<std::uint32_t> count = bounded_number(arguments.at(0), kMostInputs);
-  const std::optional<std::uint32_t> seed = bounded_number(arguments.at(1), 0xFFFF'FFFF);
+  const std::optional<std::uint32_t> series = bounded_number(arguments.at(1), 0xFFFF'FFFF);
   if (!count || *count == 0) {
     result.error.append("COUNT must be a whole number from 1 to 1000000, not '")
         .append(arguments.at(0))
         .append("'");
-  } else if (!seed) {
-    result.error.append("SEED must be a whole number from 0 to 4294967295, not '")
+  } else if (!series) {
+    result.error.append("SERIES must be a whole number from 0 to 4294967295, not '")
         .append(arguments.at(1))
         .append("'");
   } else {
     result.count = *count;
-    result.seed = *seed;
+    result.series = *series;
   }
   return result;
 }

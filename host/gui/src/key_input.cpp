@@ -1,5 +1,7 @@
 #include "key_input.h"
 
+#include "tx_host/services/letter_case.h"
+
 namespace tx::host::gui {
 namespace {
 
@@ -96,12 +98,10 @@ std::vector<INPUT> chord_events(const key_chord& chord) {
     // system key, WM_SYSKEYDOWN with VK_PACKET, and TranslateMessage turns VK_PACKET into
     // WM_SYSCHAR carrying the letter (under Wine only with alt_character_mend below): what a
     // person's Alt+letter on a Russian layout gives the dialog manager to match against the
-    // controls' access keys. Under Alt the capital is sent: Windows matches access keys without
-    // regard to case, so a person's small letter and the capital do the same, while Wine's dialog
-    // manager folds the case of Latin letters only and would miss "&Закрыть" for a small з.
-    // Without Alt it is WM_KEYDOWN and WM_CHAR, the letter typed (the capital with Shift).
-    const auto letter = static_cast<wchar_t>(
-        chord.shift || chord.alt ? chord.character : dialog::small_of(chord.character));
+    // controls' access keys. Without Alt it is WM_KEYDOWN and WM_CHAR, the letter typed. Either
+    // way the letter is the small one, as a person types it, or the capital with Shift.
+    const auto letter =
+        static_cast<wchar_t>(chord.shift ? chord.character : small_letter(chord.character));
     events.push_back(unicode_event(letter, false));
     events.push_back(unicode_event(letter, true));
   } else {

@@ -45,8 +45,8 @@ constexpr std::array<weighted, 24> kAlphabet{{
     {draw_kind::chord, 12, key(named_key::space)},
     {draw_kind::chord, 6, key(named_key::enter)},
     {draw_kind::chord, 1, key(named_key::escape)},
-    {draw_kind::chord, 6, key(static_cast<named_key>(static_cast<int>(named_key::f1) + 1))},
-    {draw_kind::chord, 4, key(static_cast<named_key>(static_cast<int>(named_key::f1) + 3))},
+    {draw_kind::chord, 6, key(dialog::function_key(2))},
+    {draw_kind::chord, 4, key(dialog::function_key(4))},
     {draw_kind::chord, 4, key(named_key::down, false, true)},
     {draw_kind::chord, 4, ctrl_letter(U'A')},
     {draw_kind::chord, 4, ctrl_letter(U'Z')},
@@ -68,11 +68,12 @@ constexpr int total_weight() {
 constexpr std::u32string_view kLetters =
     U"ABCDEFGHIJKLMNOPQRSTUVWXYZАБВГДЕЁЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ";
 
-// One draw of the mt19937 engine, whose sequence for a seed is the same everywhere, reduced by
-// remainder (not by a standard distribution, which each library may compute differently).
+// One draw of the standard Mersenne Twister, whose numbers for a series are the same in every
+// library, reduced by remainder (not by a standard distribution, which each library may compute
+// differently).
 class draws {
  public:
-  explicit draws(std::uint32_t seed) : engine_(seed) {}
+  explicit draws(std::uint32_t series) : engine_(series) {}
   std::uint32_t below(std::uint32_t bound) { return engine_() % bound; }
 
  private:
@@ -121,8 +122,8 @@ input draw(draws& d, HWND dialog) {
 }  // namespace
 
 dialog::command_outcome random_input(dialog_window& window, input_delivery& delivery,
-                                     std::uint32_t count, std::uint32_t seed) {
-  draws d(seed);
+                                     std::uint32_t count, std::uint32_t series) {
+  draws d(series);
   for (std::uint32_t number = 1; number <= count; ++number) {
     input next = draw(d, window.handle());
     if (const std::optional<std::string> error =

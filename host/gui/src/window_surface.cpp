@@ -176,7 +176,7 @@ command_outcome window_surface::keyboard(const command& c) {
   input_delivery delivery(window_, c.line, std::string(dialog::verb_name(c.what)));
   if (c.what == verb::random_input) {
     const dialog::random_input_arguments numbers = dialog::read_random_input(c.arguments);
-    return random_input(window_, delivery, numbers.count, numbers.seed);
+    return random_input(window_, delivery, numbers.count, numbers.series);
   }
   // keys and type: one chord, or one character typed, after another, each handled before the
   // next; what follows an input that closed the dialog is not sent.

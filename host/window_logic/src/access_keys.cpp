@@ -1,5 +1,7 @@
 #include "tx_host/window_logic/access_keys.h"
 
+#include "tx_host/services/letter_case.h"
+
 namespace tx::host::window_logic {
 namespace {
 
@@ -24,18 +26,8 @@ int step_of(std::u16string_view caption, std::size_t i) noexcept {
 }  // namespace
 
 char16_t key_of(char16_t c) noexcept {
-  if (c >= u'A' && c <= u'Z') return static_cast<char16_t>(c + 0x20);
-  if (c >= 0x0410 && c <= 0x042F) return static_cast<char16_t>(c + 0x20);  // А–Я
-  if (c >= 0x0400 && c <= 0x040F) return static_cast<char16_t>(c + 0x50);  // Ѐ–Џ, Ё among them
-  if (is_letter(c) || is_digit(c)) return c;
-  return 0;
-}
-
-char16_t key_shown(char16_t letter) noexcept {
-  if (letter >= u'a' && letter <= u'z') return static_cast<char16_t>(letter - 0x20);
-  if (letter >= 0x0430 && letter <= 0x044F) return static_cast<char16_t>(letter - 0x20);
-  if (letter >= 0x0450 && letter <= 0x045F) return static_cast<char16_t>(letter - 0x50);
-  return letter;
+  if (is_letter(c)) return static_cast<char16_t>(small_letter(c));
+  return is_digit(c) ? c : 0;
 }
 
 std::vector<std::vector<assigned_key>> assign_access_keys(
@@ -98,7 +90,8 @@ std::u16string without_marker(std::u16string_view text) {
 std::u16string with_key_hint(std::u16string_view hint, char16_t letter) {
   std::u16string tip(hint);
   tip += u" (Alt+";
-  tip.push_back(key_shown(letter));
+  // The key as a person reads it on the keyboard: a letter's capital.
+  tip.push_back(static_cast<char16_t>(capital_letter(letter)));
   tip += u")";
   return tip;
 }

@@ -1,15 +1,15 @@
-# Random keys and clicks on the dialog window: for each seed, txhost --gui runs
-# `random-input COUNT SEED` on a copy of a project. It must end by itself with status 0 (no crash;
+# Random keys and clicks on the dialog window: for each series, txhost --gui runs
+# `random-input COUNT SERIES` on a copy of a project. It must end by itself with status 0 (no crash;
 # a hang ends it with status 3 through its own watch, and the time limit here stops a run that
 # outlasts even that), and the project file afterwards must be the original byte for byte or, when
 # a random Space or Enter on the accepting button committed, a whole project that txhost loads
 # again and whose names differ from the original's exactly as the saved listing says.
 #
-# cmake -DTXHOST=… [-DEMULATOR=…] -DPLUGIN=… -DPROJECT=… -DCOUNT=N -DSEEDS=a|b|… -DWORK=…
+# cmake -DTXHOST=… [-DEMULATOR=…] -DPLUGIN=… -DPROJECT=… -DCOUNT=N -DSERIES=a|b|… -DWORK=…
 #       -P random_run.cmake
 cmake_minimum_required(VERSION 3.25)
 
-string(REPLACE "|" ";" seeds "${SEEDS}")
+string(REPLACE "|" ";" series "${SERIES}")
 set(host ${TXHOST})
 if(EMULATOR)
   set(host ${EMULATOR} ${TXHOST})
@@ -73,30 +73,30 @@ file(REMOVE_RECURSE "${WORK}")
 file(MAKE_DIRECTORY "${WORK}")
 file(COPY_FILE "${PROJECT}" "${WORK}/original.json")
 list_project(original.json original_listing)
-foreach(seed IN LISTS seeds)
-  set(project "${WORK}/project-${seed}.json")
+foreach(series IN LISTS series)
+  set(project "${WORK}/project-${series}.json")
   file(COPY_FILE "${PROJECT}" "${project}")
-  file(WRITE "${WORK}/random-${seed}.txt" "random-input ${COUNT} ${seed}\n")
-  execute_process(COMMAND ${host} project-${seed}.json --plugin "${PLUGIN}" --gui --all
-      --script random-${seed}.txt
+  file(WRITE "${WORK}/random-${series}.txt" "random-input ${COUNT} ${series}\n")
+  execute_process(COMMAND ${host} project-${series}.json --plugin "${PLUGIN}" --gui --all
+      --script random-${series}.txt
     WORKING_DIRECTORY "${WORK}" OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status
     TIMEOUT 600)
   string(REPLACE "\r\n" "\n" out "${out}")
-  file(WRITE "${WORK}/printed-${seed}.txt" "${out}${err}")
+  file(WRITE "${WORK}/printed-${series}.txt" "${out}${err}")
   string(REGEX MATCH "random-input: [^\n]*" told "${out}")
-  message(STATUS "seed ${seed}: ${told}")
+  message(STATUS "series ${series}: ${told}")
   if(NOT status STREQUAL "0")
-    message(FATAL_ERROR "seed ${seed}: txhost ended with status ${status}\n${err}")
+    message(FATAL_ERROR "series ${series}: txhost ended with status ${status}\n${err}")
   endif()
   # Nothing committed: the project byte for byte as it was. Committed: the names the listing
   # tells, each "  OLD → NEW" under "saved FILE: N names" (a name written as it was changes
   # nothing in the file).
-  string(FIND "${out}" "\nsaved project-${seed}.json: " at)
+  string(FIND "${out}" "\nsaved project-${series}.json: " at)
   if(at EQUAL -1)
     file(SHA256 "${PROJECT}" wanted)
     file(SHA256 "${project}" got)
     if(NOT got STREQUAL wanted)
-      message(FATAL_ERROR "seed ${seed}: the project changed, but txhost tells of no save")
+      message(FATAL_ERROR "series ${series}: the project changed, but txhost tells of no save")
     endif()
     continue()
   endif()
@@ -117,10 +117,10 @@ foreach(seed IN LISTS seeds)
     endif()
   endforeach()
   list(SORT told_pairs)
-  list_project(project-${seed}.json saved_listing)
+  list_project(project-${series}.json saved_listing)
   renamed_between("${original_listing}" "${saved_listing}" file_pairs)
   if(NOT told_pairs STREQUAL file_pairs)
-    message(FATAL_ERROR "seed ${seed}: the saved names are not the listing's\n"
+    message(FATAL_ERROR "series ${series}: the saved names are not the listing's\n"
       "listed: ${told_pairs}\nin the file: ${file_pairs}")
   endif()
 endforeach()

@@ -91,18 +91,18 @@ TEST(KeyNames, RefusesWhatNamesNoChord) {
   }
 }
 
-TEST(RandomInputArguments, ReadsTheWholeRangeOfCountAndSeed) {
+TEST(RandomInputArguments, ReadsTheWholeRangeOfCountAndSeries) {
   const random_input_arguments most = read_random_input({"1000000", "4294967295"});
   EXPECT_EQ(most.error, "");
   EXPECT_EQ(most.count, 1'000'000u);
-  EXPECT_EQ(most.seed, 4'294'967'295u);
+  EXPECT_EQ(most.series, 4'294'967'295u);
   const random_input_arguments least = read_random_input({"1", "0"});
   EXPECT_EQ(least.error, "");
   EXPECT_EQ(least.count, 1u);
-  EXPECT_EQ(least.seed, 0u);
-  for (const auto& [count, seed] : std::vector<std::pair<std::string, std::string>>{
+  EXPECT_EQ(least.series, 0u);
+  for (const auto& [count, series] : std::vector<std::pair<std::string, std::string>>{
            {"", "1"}, {"+5", "1"}, {"5", ""}, {"5", "0x10"}, {"99999999999", "1"}}) {
-    EXPECT_NE(read_random_input({count, seed}).error, "") << count << " " << seed;
+    EXPECT_NE(read_random_input({count, series}).error, "") << count << " " << series;
   }
 }
 

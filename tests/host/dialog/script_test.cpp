@@ -103,9 +103,9 @@ TEST(ScriptLine, TellsWhatIsWrongWithALine) {
        "Left, Right, Home, End, PgUp, PgDn, Insert, Delete, Backspace or F1 to F12)"},
       {"random-input 0 1", "COUNT must be a whole number from 1 to 1000000, not '0'"},
       {"random-input 1000001 1", "COUNT must be a whole number from 1 to 1000000, not '1000001'"},
-      {"random-input 20 -1", "SEED must be a whole number from 0 to 4294967295, not '-1'"},
+      {"random-input 20 -1", "SERIES must be a whole number from 0 to 4294967295, not '-1'"},
       {"random-input 20 4294967296",
-       "SEED must be a whole number from 0 to 4294967295, not '4294967296'"},
+       "SERIES must be a whole number from 0 to 4294967295, not '4294967296'"},
   };
   for (const row& r : rows) {
     const parsed_line parsed = parse_line(r.line, 12);

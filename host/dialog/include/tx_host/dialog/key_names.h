@@ -41,6 +41,11 @@ enum class named_key : std::uint8_t {
   f12 = f1 + 11,
 };
 
+// The function key F`n` (1 to 12).
+constexpr named_key function_key(int n) noexcept {
+  return static_cast<named_key>(static_cast<int>(named_key::f1) + n - 1);
+}
+
 struct key_chord {
   named_key key = named_key::character;
   // For named_key::character: the letter in capitals ('A', 'Т', 'Ё') or the digit.
@@ -64,11 +69,8 @@ parsed_keys parse_keys(std::string_view keys);
 // ("Ctrl+Shift+Tab", "Alt+Т", "F4").
 std::string key_name(const key_chord& chord);
 
-// Whether `c` is a letter a chord can name (Latin or Cyrillic, either case); its capital.
+// Whether `c` is a letter a chord can name (Latin or Cyrillic, either case).
 bool is_latin_letter(char32_t c) noexcept;
 bool is_cyrillic_letter(char32_t c) noexcept;
-char32_t capital_of(char32_t letter) noexcept;
-// The small letter of a capital that capital_of answers.
-char32_t small_of(char32_t capital) noexcept;
 
 }  // namespace tx::host::dialog

@@ -40,7 +40,7 @@ enum class verb {
   keys,          // KEYS: press keys (key_names.h) through the system's input queue
   type,          // TEXT: type TEXT into the focused control through the input queue
   focus,         // print which control has the keyboard focus
-  random_input,  // COUNT SEED: COUNT random keys and clicks from SEED ("random-input")
+  random_input,  // COUNT SERIES: COUNT random keys and clicks from SERIES ("random-input")
 };
 
 // The verb's name as written in a script.
@@ -85,11 +85,11 @@ struct parsed_script {
 // error.
 parsed_script parse_script(std::string_view text);
 
-// The numbers of `random-input COUNT SEED` (COUNT 1 to 1,000,000, SEED 0 to 4,294,967,295), or
+// The numbers of `random-input COUNT SERIES` (COUNT 1 to 1,000,000, SERIES 0 to 4,294,967,295), or
 // what is wrong with them.
 struct random_input_arguments {
   std::uint32_t count = 0;
-  std::uint32_t seed = 0;
+  std::uint32_t series = 0;
   std::string error;
 };
 random_input_arguments read_random_input(const std::vector<std::string>& arguments);

@@ -37,8 +37,6 @@ std::vector<std::vector<assigned_key>> assign_access_keys(
 // The key that typed character `c` stands for: a letter's lower case, a digit itself; 0 for a
 // character that is no key.
 char16_t key_of(char16_t c) noexcept;
-// The key as a person reads it on the keyboard and in "Alt+X": a letter's upper case.
-char16_t key_shown(char16_t letter) noexcept;
 
 // The caption as a control shows it with Windows' mnemonic marker: every '&' of the caption
 // doubled (so that it shows as one) and a '&' before the key's character. The key is looked for
